@@ -1,0 +1,223 @@
+#pragma once
+
+#include <Qiv/Common/Serialization/Export.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Qiv::Common::Serialization::Json
+{
+
+/// Writes JSON text (RFC 8259) piece by piece, without building a document first:
+///
+///     Stringer json;
+///     json.Object().Key("id").Value("n1").Key("gbeIpAddresses").Array().Value("10.0.0.1").CloseArray().CloseObject();
+///     json.ToString(); // {"id":"n1","gbeIpAddresses":["10.0.0.1"]}
+///
+/// Misuse (a value in an object without a key, a key outside an object or while a value is awaited, a close that does
+/// not match the open level) throws `InvalidStringerState` and writes nothing. At the top level any number of values
+/// may follow each other, each a JSON text of its own; nothing is written between them.
+///
+/// Text: `"`, `\` and control characters are escaped (`\b \f \n \r \t`, else `\u00xx` in lower case); `/` and
+/// well-formed UTF-8 stand as they are; each maximal subpart of an ill-formed sequence becomes U+FFFD, so the result is
+/// valid whatever the text holds. `const char*` text ends at its first NUL; in a `std::string` or `std::string_view` a
+/// NUL is written as `\u0000`. A null pointer throws `std::invalid_argument`.
+///
+/// The pretty form indents by two blanks and writes `"key": value`, `{}` and `[]`. The global locale never matters.
+/// One object serves one thread at a time.
+class QIV_COMMON_SERIALIZATION_EXPORT Stringer
+{
+public:
+    /// What is known of one open object or array.
+    struct LevelState
+    {
+        LevelState() noexcept = default;
+        LevelState(bool isEmpty, bool isAnObject, bool awaitsValue) noexcept
+            : empty(isEmpty), isObject(isAnObject), needsValue(awaitsValue)
+        {
+        }
+
+        bool empty = true;       ///< nothing has been written in this level yet
+        bool isObject = false;   ///< an object; otherwise an array
+        bool needsValue = false; ///< a key has been written and its value is awaited
+    };
+
+    /// Opens an object while it lives; see `ObjectScope`.
+    class QIV_COMMON_SERIALIZATION_EXPORT InternalObjectScope
+    {
+    public:
+        /// Opens an object on `stringer`, which must outlive the scope.
+        explicit InternalObjectScope(Stringer& stringer);
+        /// Closes the object. Throws like `CloseObject`, unless an exception is already on its way: then an object that
+        /// can't be closed stays open.
+        ~InternalObjectScope() noexcept(false);
+        InternalObjectScope(const InternalObjectScope&) = delete;
+        InternalObjectScope& operator=(const InternalObjectScope&) = delete;
+
+        Stringer& GetStringer() const noexcept { return stringer_; }
+
+    private:
+        Stringer& stringer_;
+        int exceptionsAtStart_;
+    };
+
+    /// Opens an array while it lives; see `ArrayScope`.
+    class QIV_COMMON_SERIALIZATION_EXPORT InternalArrayScope
+    {
+    public:
+        /// Opens an array on `stringer`, which must outlive the scope.
+        explicit InternalArrayScope(Stringer& stringer);
+        /// Closes the array; the same as for an object.
+        ~InternalArrayScope() noexcept(false);
+        InternalArrayScope(const InternalArrayScope&) = delete;
+        InternalArrayScope& operator=(const InternalArrayScope&) = delete;
+
+        Stringer& GetStringer() const noexcept { return stringer_; }
+
+    private:
+        Stringer& stringer_;
+        int exceptionsAtStart_;
+    };
+
+    /// A compact writer on a fresh stream.
+    Stringer() noexcept;
+
+    /// A compact writer onto `stream`, which receives each piece of text as soon as it is written. A null pointer
+    /// counts as a fresh stream.
+    explicit Stringer(std::unique_ptr<std::stringstream>&& stream) noexcept;
+
+    /// A deep copy: text, open levels and layout; the two go on independently.
+    Stringer(const Stringer& other);
+    Stringer& operator=(const Stringer& other);
+
+    /// The moved-from writer is as a new one of the same layout.
+    Stringer(Stringer&& other) noexcept;
+    Stringer& operator=(Stringer&& other) noexcept;
+
+    ~Stringer();
+
+    /// A writer of the indented form on a fresh stream.
+    static Stringer PrettyStringer();
+
+    /// A copy of the text written so far, complete or not.
+    std::string ToString() const;
+
+    /// Hands over the stream with the text written so far. The writer is as a new one of the same layout afterwards.
+    std::unique_ptr<std::stringstream> TakeStream();
+
+    /// The stream with the text written so far. It stays the writer's own and receives each further piece of text as
+    /// soon as it is written.
+    std::stringstream& Stream();
+
+    /// Opens an object, as a value.
+    Stringer& Object();
+    /// Closes the innermost level, which must be an object that awaits no value.
+    Stringer& CloseObject();
+    /// Opens an array, as a value.
+    Stringer& Array();
+    /// Closes the innermost level, which must be an array.
+    Stringer& CloseArray();
+
+    /// Writes a member name; exactly one value must follow.
+    Stringer& Key(const char* key);
+    Stringer& Key(const std::string& key) { return Key(std::string_view(key)); }
+    Stringer& Key(std::string_view key);
+
+    Stringer& Value(bool value);
+    Stringer& Value(std::int32_t value);
+    /// The shortest form that reads back to the same number. NaN and infinities throw `std::invalid_argument`.
+    Stringer& Value(double value);
+    Stringer& Value(const char* value);
+    Stringer& Value(const std::string& value) { return Value(std::string_view(value)); }
+    Stringer& Value(std::string_view value);
+    Stringer& NullValue();
+
+    /// Opens an object, under `key` if there is one, until the returned scope ends.
+    [[nodiscard]] InternalObjectScope ObjectScope();
+    [[nodiscard]] InternalObjectScope ObjectScope(const char* key);
+    /// Opens an array, under `key` if there is one, until the returned scope ends.
+    [[nodiscard]] InternalArrayScope ArrayScope();
+    [[nodiscard]] InternalArrayScope ArrayScope(const char* key);
+
+    /// The JSON string of a text: escaped as above, in quotes.
+    static std::string ToEscapedString(const char* text);
+
+private:
+    /// Growing text into whose free end an item is composed: `Reserve`, write through the pointer, `End`.
+    class TextBuffer
+    {
+    public:
+        TextBuffer() noexcept = default;
+        TextBuffer(const TextBuffer& other);
+        TextBuffer(TextBuffer&& other) noexcept;
+        TextBuffer& operator=(TextBuffer other) noexcept;
+
+        std::string_view Text() const noexcept { return {data_.get(), size_}; }
+
+        char* Reserve(std::size_t room) { return Reserve(data_.get() + size_, room); }
+        /// Makes room for `room` bytes behind `end` and keeps what is composed before it.
+        char* Reserve(char* end, std::size_t room)
+        {
+            return static_cast<std::size_t>(data_.get() + capacity_ - end) >= room ? end : Grow(end, room);
+        }
+        /// Writes `text` escaped and in quotes at `end`, where there must be room for `QuotedRoom(text)` bytes.
+        /// Leaves room for `slack` bytes behind the end that it returns.
+        char* Quote(char* end, std::string_view text);
+        static constexpr std::size_t slack = 16;
+        static std::size_t QuotedRoom(std::string_view text) noexcept { return text.size() + 2 * slack; }
+
+        void End(const char* end) noexcept { size_ = static_cast<std::size_t>(end - data_.get()); }
+        void Clear() noexcept { size_ = 0; }
+
+    private:
+        char* Grow(char* end, std::size_t room);
+
+        std::unique_ptr<char[]> data_;
+        std::size_t size_ = 0;
+        std::size_t capacity_ = 0;
+    };
+
+    /// The open levels. Only those beyond the usual depth need memory.
+    class LevelStack
+    {
+    public:
+        bool Empty() const noexcept { return size_ == 0; }
+        std::size_t Size() const noexcept { return size_; }
+        LevelState& Top() noexcept { return size_ <= near_.size() ? near_[size_ - 1] : far_.back(); }
+        const LevelState& Top() const noexcept { return size_ <= near_.size() ? near_[size_ - 1] : far_.back(); }
+        void Push(LevelState level);
+        void Pop() noexcept;
+
+    private:
+        std::array<LevelState, 16> near_;
+        std::vector<LevelState> far_;
+        std::size_t size_ = 0;
+    };
+
+    void ThrowIfInvalidState(const char* operation, bool writesKey = false) const;
+    void ThrowIfInconsistent(const char* operation, bool closesObject) const;
+    const LevelState& CurrentLevelState() const noexcept { return states_.Top(); }
+
+    char* NewLine(char* end, std::size_t levels) const noexcept;
+    static char* Indent(char* end, std::size_t levels) noexcept;
+    char* BeginItem(std::size_t room);
+    void EndItem(const char* end, bool needsValue);
+    void WriteThrough();
+    Stringer& Open(const char* operation, bool isObject);
+    Stringer& Close(const char* operation, bool isObject);
+    Stringer& Literal(const char* operation, std::string_view text);
+
+    std::unique_ptr<std::stringstream> stream_; // made when it is first asked for
+    TextBuffer pending_;                        // text that the stream has not received yet
+    LevelStack states_;
+    bool prettyPrint_ = false;
+    bool writesThrough_ = false; // somebody else may look at the stream, so nothing may stay pending
+};
+
+} // namespace Qiv::Common::Serialization::Json
