@@ -1,0 +1,123 @@
+#!/usr/bin/env bash
+# Checks what users of the installed package rely on. CXX and CXXFLAGS are those of the libraries.
+#   check.sh installed BUILD            installs, moves the tree, looks at the libraries, builds the consumer twice
+#   check.sh symbols BUILD [--write]    exported symbols against tests/abi, or writes those lists
+#   check.sh packages FOLDER ARCH       unpacks the Debian packages, builds the consumer against them, runs the tool
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+: "${CXX:=g++}" "${CXXFLAGS:=}"
+export CXX CXXFLAGS
+warnings=(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+product=Qiv.DataModel.Tarvonel.Serialization.Json
+
+fail()
+{
+    echo "FAILED: $*" >&2
+    exit 1
+}
+
+# The folder of the system's libraries for the compiler in use, e.g. i386-linux-gnu.
+multiarch()
+{
+    if [[ $CXXFLAGS == *-m32* ]]; then echo i386-linux-gnu; else $CXX -print-multiarch; fi
+}
+
+check_consumer() # PREFIX LIBRARY_FOLDER
+{
+    local toolchain=() system=/usr/lib/$(multiarch) flags
+    [[ $CXXFLAGS != *-m32* ]] || toolchain=(-DCMAKE_LIBRARY_ARCHITECTURE=i386-linux-gnu)
+    cmake -S "$here/consumer" -B "$scratch/consumer" "-DCMAKE_PREFIX_PATH=$1" "${toolchain[@]}" >"$scratch/log" 2>&1 &&
+        cmake --build "$scratch/consumer" >"$scratch/log" 2>&1 || fail "find_package: $(cat "$scratch/log")"
+    LD_LIBRARY_PATH=$1/$2 "$scratch/consumer/consumer"
+
+    flags=$(PKG_CONFIG_LIBDIR=$1/$2/pkgconfig:$system/pkgconfig:/usr/share/pkgconfig \
+        PKG_CONFIG_SYSTEM_LIBRARY_PATH=$system pkg-config --cflags --libs $product)
+    [[ $flags == *"$1"* ]] || fail "pkg-config does not point into $1: $flags"
+    # shellcheck disable=SC2086 # lists of words
+    $CXX $CXXFLAGS -std=c++17 "${warnings[@]}" "$here/consumer/main.cpp" -o "$scratch/by-pkg-config" $flags
+    LD_LIBRARY_PATH=$1/$2 "$scratch/by-pkg-config"
+}
+
+check_library() # FILE, without version
+{
+    local name dynamic
+    name=$(basename "$1")
+    dynamic=$(readelf -d "$1")
+    [[ $(basename "$(readlink -f "$1")") == "$name".1.0.0 ]] || fail "$name does not lead to $name.1.0.0"
+    [[ $dynamic == *"Library soname: [$name.1]"* ]] || fail "$name has another SONAME: $dynamic"
+    # Entities know nothing of JSON.
+    [[ $name == *Json.so || $dynamic != *libjsoncpp* ]] || fail "$name needs jsoncpp"
+    [[ $dynamic != *TEXTREL* ]] || fail "$name is not position independent"
+}
+
+check_installed() # BUILD
+{
+    local library count=0
+    cmake --install "$1" --prefix "$scratch/first" >"$scratch/log" || fail "$(cat "$scratch/log")"
+    mv "$scratch/first" "$scratch/moved"
+    for library in "$scratch"/moved/lib/lib*.so; do
+        check_library "$library"
+        count=$((count + 1))
+    done
+    ((count == $(find "$scratch"/moved/lib/pkgconfig -name '*.pc' | wc -l))) || fail "not one pkg-config file a library"
+    ! find "$scratch/moved" -path '*Details*' | grep . || fail "private headers were installed"
+    ! grep -rlF -e "$scratch/first" -e "$(cd "$1" && pwd)" "$scratch/moved" --include='*.pc' --include='*.cmake' ||
+        fail "the files above hold the path of the build or of the first prefix"
+    check_consumer "$scratch/moved" lib
+    [[ ! -e $scratch/moved/bin/tarvonel-json ]] || "$scratch/moved/bin/tarvonel-json" --help >/dev/null
+}
+
+# Strong symbols of our own, and the type information that casts and exceptions compare across libraries. Weak code is
+# left out: how much of it a library holds depends on what the optimiser inlines.
+exported() # LIBRARY
+{
+    nm --dynamic --defined-only --demangle "$1" | sed -nE 's/^[0-9a-f]+ ([TDBR]|[VW] (typeinfo|vtable)) /\1 /p' |
+        sed -E 's/^([TDBR]|[VW]) //; s/std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >/std::string/g' |
+        grep 'Qiv::' | LC_ALL=C sort -u
+}
+
+check_symbols() # BUILD [--write]
+{
+    local library list
+    for library in "$1"/lib/lib*.so; do
+        list=$here/../abi/$(basename "$library" .so).symbols
+        if [[ ${2:-} == --write ]]; then
+            mkdir -p "$(dirname "$list")"
+            exported "$library" >"$list"
+        else
+            exported "$library" | diff -u "$list" - ||
+                fail "$(basename "$library") exports something else; if that is meant: ./run symbols"
+        fi
+    done
+    [[ ${2:-} == --write ]] || (($(ls "$here"/../abi/*.symbols | wc -l) == $(ls "$1"/lib/lib*.so | wc -l))) ||
+        fail "not one list a library"
+}
+
+check_packages() # FOLDER ARCHITECTURE
+{
+    local file depends lib
+    lib=usr/lib/$(multiarch)
+    for file in "$1"/*_"$2".deb; do
+        dpkg-deb --extract "$file" "$scratch/root"
+        depends=$(dpkg-deb --field "$file" Depends)
+        echo "$(basename "$file"): $depends"
+        case $(basename "$file") in
+            libqiv1_*) [[ $depends == *libjsoncpp* && $depends == *libc6* && $depends == *libstdc++6* ]] ;;
+            libqiv-dev_*) [[ $depends == *libqiv1* && $depends == *libjsoncpp-dev* ]] ;;
+            tarvonel-json_*) [[ $depends == *libqiv1* && $depends == *libc6* ]] ;;
+            *) false ;;
+        esac || fail "$file: depends on $depends"
+    done
+    for file in "$scratch/root/$lib"/lib*.so; do
+        check_library "$file"
+        [[ $(readelf -d "$file") != *RUNPATH* ]] || fail "$file carries a search path"
+    done
+    check_consumer "$scratch/root/usr" "lib/$(multiarch)"
+    printf '{"_type":"Node","id":"n1","serialNumber":7}' >"$scratch/tagged.json"
+    [[ $(LD_LIBRARY_PATH=$scratch/root/$lib "$scratch/root/usr/bin/tarvonel-json" convert "$scratch/tagged.json") == \
+        '{"_type":"Node","id":"n1","serialNumber":7}' ]] || fail "the packaged tool does not convert a node"
+}
+
+check_"$1" "${@:2}"
