@@ -1,0 +1,8 @@
+#include <Qiv/TimePoints/DurationFormatter.h>
+
+namespace Qiv::TimePoints
+{
+
+DurationFormatter::~DurationFormatter() = default;
+
+} // namespace Qiv::TimePoints

@@ -1,0 +1,8 @@
+#include <Qiv/TimePoints/TimeCodeParser.h>
+
+namespace Qiv::TimePoints
+{
+
+TimeCodeParser::~TimeCodeParser() = default;
+
+} // namespace Qiv::TimePoints
