@@ -1,0 +1,62 @@
+#pragma once
+
+#include <Qiv/BusinessEntityModel/BaseTypes/Export.h>
+#include <Qiv/BusinessEntityModel/BaseTypes/FullyQualifiedName.h>
+#include <Qiv/BusinessEntityModel/BaseTypes/MetadataProfile.h>
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace Qiv::BusinessEntityModel::BaseTypes
+{
+
+/// The metadata profiles of one channel, at most one under each name, in ascending byte-wise order of the names.
+///
+/// A copy shares the profiles; Clone() and DeepCopy() duplicate them. An entry may hold a null pointer: it counts in
+/// Size(), Contains(), Keys() and Values(), but it has no profile to give.
+class QIV_BUSINESSENTITYMODEL_BASETYPES_EXPORT MetadataProfileDictionary
+{
+public:
+    void Clear() noexcept { values_.clear(); }
+    bool Empty() const noexcept { return values_.empty(); }
+    std::size_t Size() const noexcept { return values_.size(); }
+    bool Contains(const FullyQualifiedName& name) const { return values_.count(name) != 0; }
+
+    /// The profile under `name`; throws std::out_of_range with the text "map::at" when there is none.
+    const MetadataProfile& At(const FullyQualifiedName& name) const;
+    MetadataProfile& At(const FullyQualifiedName& name);
+    /// The same as At: profiles are abstract, so that an absent one cannot be inserted.
+    const MetadataProfile& operator[](const FullyQualifiedName& name) const { return At(name); }
+    MetadataProfile& operator[](const FullyQualifiedName& name) { return At(name); }
+    /// The profile under `name`, or null when there is none.
+    std::shared_ptr<MetadataProfile> Find(const FullyQualifiedName& name) const;
+
+    /// All names, and all profiles in the order of their names.
+    std::vector<FullyQualifiedName> Keys() const;
+    std::vector<std::shared_ptr<MetadataProfile>> Values() const;
+
+    /// Stores `profile` under its own name, in place of a profile that the name had. Throws std::invalid_argument when
+    /// it is null.
+    void Set(const std::shared_ptr<MetadataProfile>& profile);
+    /// Stores `profile`, which may be null, under `name`.
+    void Set(const FullyQualifiedName& name, const std::shared_ptr<MetadataProfile>& profile);
+    /// Removes the entry under `name`; false when there is none.
+    bool Erase(const FullyQualifiedName& name);
+    /// Removes the entry under the name of `profile`; false when there is none or `profile` is null.
+    bool Erase(const std::shared_ptr<MetadataProfile>& profile);
+
+    /// Replaces the content by clones of the profiles of `other`; when cloning throws, the content stays.
+    void DeepCopy(const MetadataProfileDictionary& other);
+    MetadataProfileDictionary Clone() const;
+
+    /// Equal when the names are and, name by name, the profiles.
+    bool operator==(const MetadataProfileDictionary& other) const;
+    bool operator!=(const MetadataProfileDictionary& other) const { return !(*this == other); }
+
+private:
+    std::map<FullyQualifiedName, std::shared_ptr<MetadataProfile>> values_;
+};
+
+} // namespace Qiv::BusinessEntityModel::BaseTypes

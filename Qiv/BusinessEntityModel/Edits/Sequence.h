@@ -1,0 +1,29 @@
+#pragma once
+
+#include <Qiv/BusinessEntityModel/BaseTypes/Identifier.h>
+#include <Qiv/BusinessEntityModel/BaseTypes/Utf8String.h>
+#include <Qiv/BusinessEntityModel/Edits/Export.h>
+
+namespace Qiv::BusinessEntityModel::Edits
+{
+
+/// An edited sequence, as far as a channel that plays it shows it.
+class QIV_BUSINESSENTITYMODEL_EDITS_EXPORT Sequence
+{
+public:
+    const BaseTypes::Identifier& Id() const noexcept { return id_; }
+    void Id(const BaseTypes::Identifier& id) { id_ = id; }
+
+    /// The display name; empty when unknown.
+    const BaseTypes::Utf8String& Name() const noexcept { return name_; }
+    void Name(const BaseTypes::Utf8String& name) { name_ = name; }
+
+    bool operator==(const Sequence& other) const noexcept;
+    bool operator!=(const Sequence& other) const noexcept { return !(*this == other); }
+
+private:
+    BaseTypes::Identifier id_;
+    BaseTypes::Utf8String name_;
+};
+
+} // namespace Qiv::BusinessEntityModel::Edits
