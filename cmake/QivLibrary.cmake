@@ -50,9 +50,11 @@ function(qiv_add_library name)
         DEPRECATED_MACRO_NAME ${prefix}_DEPRECATED
         INCLUDE_GUARD_NAME ${prefix}_EXPORT_H
         EXPORT_FILE_NAME ${QIV_GENERATED_ROOT}/${folder}/Export.h)
-    target_sources(${name} PUBLIC FILE_SET HEADERS
-        BASE_DIRS ${QIV_INCLUDE_ROOT} ${QIV_GENERATED_ROOT}
-        FILES ${library_HEADERS} ${QIV_GENERATED_ROOT}/${folder}/Export.h)
+    # Two sets, because the base folders of one may not lie within each other, as those of a build in the tree do.
+    target_sources(${name} PUBLIC
+        FILE_SET HEADERS BASE_DIRS ${QIV_INCLUDE_ROOT} FILES ${library_HEADERS}
+        FILE_SET generated TYPE HEADERS BASE_DIRS ${QIV_GENERATED_ROOT}
+        FILES ${QIV_GENERATED_ROOT}/${folder}/Export.h)
 
     set(requires "")
     foreach(dependency IN LISTS library_DEPENDS)
@@ -66,7 +68,8 @@ function(qiv_add_library name)
 
     install(TARGETS ${name} EXPORT QivTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
-        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT dev)
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT dev
+        FILE_SET generated DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT dev)
 
     set_property(GLOBAL APPEND PROPERTY QIV_LIBRARIES ${name})
 
