@@ -1,0 +1,66 @@
+#pragma once
+
+#include <Qiv/BusinessEntityModel/BaseTypes/EditorialMetadata.h>
+#include <Qiv/BusinessEntityModel/BaseTypes/Identifier.h>
+#include <Qiv/BusinessEntityModel/BaseTypes/SharedReference.h>
+#include <Qiv/BusinessEntityModel/BaseTypes/Utf8String.h>
+#include <Qiv/DataModel/MediaAssets/MediaAsset.h>
+#include <Qiv/DataModel/Tarvonel/Export.h>
+
+namespace Qiv::DataModel::Tarvonel::MediaIOs
+{
+
+/// What every media channel of the server has: the base of MediaInput and MediaOutput, by which alone it is copied.
+/// By default everything is empty. A copy shares the metadata profiles and the media asset.
+class QIV_DATAMODEL_TARVONEL_EXPORT MediaIO
+{
+public:
+    /// The kind of a channel. A channel is of the class that its mode names: code that asks for the mode then treats it
+    /// as that class without further check.
+    enum class Mode
+    {
+        Input = 0,  ///< MediaInput
+        Output = 1, ///< MediaOutput
+    };
+
+    virtual ~MediaIO();
+
+    virtual Mode GetMode() const = 0;
+
+    const BusinessEntityModel::BaseTypes::Identifier& Id() const noexcept { return id_; }
+    void Id(const BusinessEntityModel::BaseTypes::Identifier& id) { id_ = id; }
+
+    /// The display name.
+    const BusinessEntityModel::BaseTypes::Utf8String& Name() const noexcept { return name_; }
+    void Name(const BusinessEntityModel::BaseTypes::Utf8String& name) { name_ = name; }
+
+    const BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset>& MediaAssetOnAir() const noexcept
+    {
+        return mediaAssetOnAir_;
+    }
+    void MediaAssetOnAir(const BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset>& mediaAsset)
+    {
+        mediaAssetOnAir_ = mediaAsset;
+    }
+
+    BusinessEntityModel::BaseTypes::EditorialMetadata& Metadata() noexcept;
+    const BusinessEntityModel::BaseTypes::EditorialMetadata& Metadata() const noexcept;
+
+protected:
+    MediaIO() = default;
+    MediaIO(const MediaIO&) = default;
+    MediaIO(MediaIO&&) = default;
+    MediaIO& operator=(const MediaIO&) = default;
+    MediaIO& operator=(MediaIO&&) = default;
+
+    /// Whether the members of this class are equal, references by their identifiers.
+    bool HasEqualCommonMembers(const MediaIO& other) const;
+
+private:
+    BusinessEntityModel::BaseTypes::Identifier id_;
+    BusinessEntityModel::BaseTypes::Utf8String name_;
+    BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset> mediaAssetOnAir_;
+    BusinessEntityModel::BaseTypes::EditorialMetadata metadata_;
+};
+
+} // namespace Qiv::DataModel::Tarvonel::MediaIOs

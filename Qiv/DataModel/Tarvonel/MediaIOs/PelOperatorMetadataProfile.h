@@ -1,0 +1,44 @@
+#pragma once
+
+#include <Qiv/BusinessEntityModel/BaseTypes/FullyQualifiedName.h>
+#include <Qiv/BusinessEntityModel/BaseTypes/MetadataProfile.h>
+#include <Qiv/DataModel/Tarvonel/Export.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace Qiv::DataModel::Tarvonel::MediaIOs
+{
+
+/// The profile "qiv.peloperator": which operator works on the channel, and from which server.
+class QIV_DATAMODEL_TARVONEL_EXPORT PelOperatorMetadataProfile : public BusinessEntityModel::BaseTypes::MetadataProfile
+{
+public:
+    /// The serial number that stands for "no server".
+    static constexpr std::int32_t EmptyServerSerialNumber() noexcept { return 0; }
+
+    PelOperatorMetadataProfile() = default;
+    PelOperatorMetadataProfile(const PelOperatorMetadataProfile&) = default;
+    PelOperatorMetadataProfile& operator=(const PelOperatorMetadataProfile&) = default;
+    ~PelOperatorMetadataProfile() override;
+
+    /// Always "qiv.peloperator".
+    BusinessEntityModel::BaseTypes::FullyQualifiedName FullyQualifiedName() const override;
+    /// True when `other` is an operator profile with the same server and index.
+    bool Equals(const BusinessEntityModel::BaseTypes::MetadataProfile& other) const override;
+    std::shared_ptr<BusinessEntityModel::BaseTypes::MetadataProfile> Clone() const override;
+
+    /// The serial number of the server on which the operator works.
+    std::int32_t ServerId() const noexcept { return serverId_; }
+    void ServerId(std::int32_t serverId) { serverId_ = serverId; }
+
+    /// The operator's index.
+    std::int32_t Index() const noexcept { return index_; }
+    void Index(std::int32_t index) { index_ = index; }
+
+private:
+    std::int32_t serverId_ = EmptyServerSerialNumber();
+    std::int32_t index_ = 0;
+};
+
+} // namespace Qiv::DataModel::Tarvonel::MediaIOs
