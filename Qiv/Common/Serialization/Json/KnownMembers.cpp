@@ -3,13 +3,16 @@
 namespace Qiv::Common::Serialization::Json
 {
 
-Result InvalidType(std::string_view found, std::string_view expected)
+Result CheckType(const JsonObject* type, std::string_view expected)
 {
-    return std::string("Invalid type ").append(found).append(" : ").append(expected).append(" expected");
+    const auto found = IfText(type);
+    if (!found || *found == expected)
+        return {};
+    return std::string("Invalid type ").append(*found).append(" : ").append(expected).append(" expected");
 }
 
-void Details::FindMembers(const JsonObject& json, const std::string_view* ascendingKeys, std::size_t keyCount,
-                          const JsonObject** members) noexcept
+void FindMembers(const JsonObject& json, const std::string_view* ascendingKeys, std::size_t keyCount,
+                 const JsonObject** members) noexcept
 {
     // Iterating and size() would take an array too, and find() throws on arrays and scalars.
     if (!json.isObject())

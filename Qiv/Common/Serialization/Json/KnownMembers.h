@@ -28,14 +28,45 @@ inline std::string_view TextOf(const JsonObject& string) noexcept
                                           : std::string_view();
 }
 
-/// The failure of a reader whose "_type" member is not its own: "Invalid type X : Y expected".
-QIV_COMMON_SERIALIZATION_EXPORT Result InvalidType(std::string_view found, std::string_view expected);
-
-namespace Details
+/// The member `key` of a JSON object; null when `json` is not an object, and when the member is absent or null.
+/// Asks for the type first, since jsoncpp's own look-ups throw on arrays and scalars.
+inline const JsonObject* FindMember(const JsonObject& json, std::string_view key) noexcept
 {
+    const auto* const member = json.isObject() ? json.find(key.data(), key.data() + key.size()) : nullptr;
+    return member != nullptr && !member->isNull() ? member : nullptr;
+}
+
+// The questions that readers ask of a member, which is null when it is absent or null. Each answers for that, too.
+
+inline const JsonObject* IfType(const JsonObject* member, ::Json::ValueType type) noexcept
+{
+    return member != nullptr && member->type() == type ? member : nullptr;
+}
+
+inline std::optional<std::string_view> IfText(const JsonObject* member) noexcept
+{
+    return IfType(member, ::Json::stringValue) ? std::optional<std::string_view>(TextOf(*member)) : std::nullopt;
+}
+
+/// The value when jsoncpp calls it an integer of 32 bits, `isInt()` (so 3.0 is one).
+inline std::optional<std::int32_t> IfInt(const JsonObject* member) noexcept
+{
+    return member != nullptr && member->isInt() ? std::optional<std::int32_t>(member->asInt()) : std::nullopt;
+}
+
+inline std::optional<bool> IfBool(const JsonObject* member) noexcept
+{
+    return IfType(member, ::Json::booleanValue) ? std::optional<bool>(member->asBool()) : std::nullopt;
+}
+
+/// The failure "Invalid type X : Y expected" when the member "_type" is a text X other than the expected Y; success when
+/// it is that text, has another type, or is absent.
+QIV_COMMON_SERIALIZATION_EXPORT Result CheckType(const JsonObject* type, std::string_view expected);
+
+/// Sets `members[i]` to the member `ascendingKeys[i]` of a JSON object and leaves it alone when there is none.
+/// What `KnownMembers` does, for keys in byte-wise ascending order.
 QIV_COMMON_SERIALIZATION_EXPORT void FindMembers(const JsonObject& json, const std::string_view* ascendingKeys,
                                                  std::size_t keyCount, const JsonObject** members) noexcept;
-}
 
 /// The members of a JSON object that a reader knows, all found in one walk over the object.
 ///
@@ -63,53 +94,20 @@ public:
 
     explicit KnownMembers(const JsonObject& json) noexcept
     {
-        Details::FindMembers(json, Keys::names.data(), count, members_.data());
+        FindMembers(json, Keys::names.data(), count, members_.data());
     }
 
     /// The member, whatever its type; null when it is absent or null.
     const JsonObject* Any(Index key) const noexcept { return members_[static_cast<std::size_t>(key)]; }
 
-    /// The member when it is an object; otherwise null.
-    const JsonObject* Object(Index key) const noexcept { return If(key, ::Json::objectValue); }
-
-    /// The member when it is an array; otherwise null.
-    const JsonObject* Array(Index key) const noexcept { return If(key, ::Json::arrayValue); }
-
-    /// The member's text when it is a string; otherwise nothing.
-    std::optional<std::string_view> Text(Index key) const noexcept
-    {
-        const auto* member = If(key, ::Json::stringValue);
-        return member == nullptr ? std::nullopt : std::optional<std::string_view>(TextOf(*member));
-    }
-
-    /// The member's value when jsoncpp calls it an integer of 32 bits, `isInt()` (so 3.0 is one); otherwise nothing.
-    std::optional<std::int32_t> Int(Index key) const noexcept
-    {
-        const auto* member = Any(key);
-        return member != nullptr && member->isInt() ? std::optional<std::int32_t>(member->asInt()) : std::nullopt;
-    }
-
-    /// The member's value when it is `true` or `false`; otherwise nothing.
-    std::optional<bool> Bool(Index key) const noexcept
-    {
-        const auto* member = If(key, ::Json::booleanValue);
-        return member == nullptr ? std::nullopt : std::optional<bool>(member->asBool());
-    }
-
-    /// True when the member is a string other than `expected`; a member of another type is not checked.
-    bool IsOtherText(Index key, std::string_view expected) const noexcept
-    {
-        const auto text = Text(key);
-        return text.has_value() && *text != expected;
-    }
+    /// The member when it is of the type, otherwise null or nothing.
+    const JsonObject* Object(Index key) const noexcept { return IfType(Any(key), ::Json::objectValue); }
+    const JsonObject* Array(Index key) const noexcept { return IfType(Any(key), ::Json::arrayValue); }
+    std::optional<std::string_view> Text(Index key) const noexcept { return IfText(Any(key)); }
+    std::optional<std::int32_t> Int(Index key) const noexcept { return IfInt(Any(key)); }
+    std::optional<bool> Bool(Index key) const noexcept { return IfBool(Any(key)); }
 
 private:
-    const JsonObject* If(Index key, ::Json::ValueType type) const noexcept
-    {
-        const auto* member = Any(key);
-        return member != nullptr && member->type() == type ? member : nullptr;
-    }
-
     std::array<const JsonObject*, count> members_{};
 };
 

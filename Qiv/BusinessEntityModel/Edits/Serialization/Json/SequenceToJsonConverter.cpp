@@ -1,0 +1,20 @@
+#include <Qiv/BusinessEntityModel/Edits/Serialization/Json/SequenceToJsonConverter.h>
+
+namespace Qiv::BusinessEntityModel::Edits::Serialization::Json
+{
+
+SequenceToJsonConverter::~SequenceToJsonConverter() = default;
+
+Common::Serialization::Result SequenceToJsonConverter::To(const Sequence& sequence,
+                                                          Common::Serialization::Json::Stringer& stringer) const
+{
+    stringer.Object();
+    stringer.Key("_type").Value("Sequence");
+    stringer.Key("id").Value(sequence.Id().Value().c_str());
+    if (!sequence.Name().empty())
+        stringer.Key("name").Value(sequence.Name().c_str());
+    stringer.CloseObject();
+    return {};
+}
+
+} // namespace Qiv::BusinessEntityModel::Edits::Serialization::Json

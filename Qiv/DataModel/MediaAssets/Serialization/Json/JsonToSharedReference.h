@@ -1,0 +1,84 @@
+#pragma once
+
+#include <Qiv/BusinessEntityModel/BaseTypes/SharedReference.h>
+#include <Qiv/Common/Serialization/Json/FromJsonConverter.h>
+#include <Qiv/Common/Serialization/Json/KnownMembers.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/Export.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace Qiv::DataModel::MediaAssets::Serialization::Json
+{
+
+/// Reads a reference to a `T`, in one of two forms:
+///
+///     {"_type":"MediaAssetRef","id":"a1"}                       by identifier only
+///     {"_type":"MediaAssetRef","id":"a1","mediaAsset":{...}}    with the object embedded
+///
+/// The first form has "id" and at most "_type" beside it; the reference then holds no object. In the second form the
+/// identifier is the embedded object's own, whatever "id" says. "_type" is optional and compared when it is a string.
+/// An "id" that is a number or a boolean is taken as jsoncpp's text of it.
+///
+/// Failures leave the target untouched: "Bad _type", "Bad format" (neither form), or the embedded object's own failure.
+/// Throws what the embedded object's reader throws.
+template <typename T>
+class QIV_DATAMODEL_MEDIAASSETS_SERIALIZATION_JSON_EXPORT JsonToSharedReference
+    : public Common::Serialization::Json::FromJsonConverter<BusinessEntityModel::BaseTypes::SharedReference<T>>
+{
+    using Reference = BusinessEntityModel::BaseTypes::SharedReference<T>;
+    using Base = Common::Serialization::Json::FromJsonConverter<Reference>;
+    using JsonObject = Common::Serialization::Json::JsonObject;
+    using Result = Common::Serialization::Result;
+
+public:
+    using TargetReader = Common::Serialization::Json::FromJsonConverter<T>;
+
+    /// @param typeProperty       the text that "_type" must have, for example "MediaAssetRef"
+    /// @param embeddedProperty   the key of the embedded object, for example "mediaAsset"
+    /// @param fromJsonConverter  the reader of the embedded object; without one an embedded object is "Bad format"
+    JsonToSharedReference(const std::string& typeProperty, const std::string& embeddedProperty,
+                          std::shared_ptr<TargetReader> fromJsonConverter)
+        : typeProperty_(typeProperty),
+          embeddedProperty_(embeddedProperty),
+          fromJsonConverter_(std::move(fromJsonConverter))
+    {
+    }
+
+    using Base::To;
+    Result To(const JsonObject& json, Reference& reference) const override
+    {
+        using Common::Serialization::Json::FindMember;
+        using Common::Serialization::Json::TextOf;
+
+        const auto* const type = FindMember(json, "_type");
+        if (type != nullptr && type->isString() && TextOf(*type) != typeProperty_)
+            return "Bad _type";
+
+        const auto* const id = FindMember(json, "id");
+        if (id != nullptr && (json.size() == 1 || (json.size() == 2 && type != nullptr)))
+        {
+            if (id->isArray() || id->isObject())
+                return "Bad format";
+            reference = Reference(BusinessEntityModel::BaseTypes::Identifier(id->asString()));
+            return {};
+        }
+
+        const auto* const embedded = FindMember(json, embeddedProperty_);
+        if (embedded == nullptr || !embedded->isObject() || fromJsonConverter_ == nullptr)
+            return "Bad format";
+        auto object = std::make_shared<T>();
+        if (auto result = fromJsonConverter_->To(*embedded, *object); !result)
+            return result;
+        reference = std::move(object);
+        return {};
+    }
+
+private:
+    std::string typeProperty_;
+    std::string embeddedProperty_;
+    std::shared_ptr<TargetReader> fromJsonConverter_;
+};
+
+} // namespace Qiv::DataModel::MediaAssets::Serialization::Json

@@ -1,0 +1,57 @@
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToTimePointConverter.h>
+
+#include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
+
+#include <charconv>
+
+namespace Qiv::DataModel::MediaAssets::Serialization::Json
+{
+
+using namespace Common::Serialization::Json;
+using Common::Serialization::Result;
+using TimePoints::TimePoint;
+
+namespace
+{
+
+std::optional<std::int64_t> WholeNumber(std::string_view text) noexcept
+{
+    if (!text.empty() && text.front() == '+' && text.substr(1, 1) != "-")
+        text.remove_prefix(1);
+    std::int64_t number = 0;
+    const auto* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && stop == end ? std::optional<std::int64_t>(number) : std::nullopt;
+}
+
+std::optional<std::int64_t> Nanoseconds(const JsonObject* value)
+{
+    if (value == nullptr)
+        return std::nullopt;
+    if (value->isString())
+        return WholeNumber(TextOf(*value));
+    return value->isInt64() ? std::optional<std::int64_t>(value->asInt64()) : std::nullopt;
+}
+
+} // namespace
+
+JsonToTimePointConverter::~JsonToTimePointConverter() = default;
+
+Result JsonToTimePointConverter::To(const JsonObject& json, TimePoint& timePoint) const
+{
+    using Key = NanosecondsObjectKeys::Index;
+
+    if (IsEmptyObject(json))
+        return "TimePoint is empty";
+    const KnownMembers<NanosecondsObjectKeys> members(json);
+    if (auto result = CheckType(members.Any(Key::Type), "TimePoint"); !result)
+        return result;
+
+    const auto nanoseconds = Nanoseconds(members.Any(Key::Value));
+    if (!nanoseconds)
+        return "Invalid TimePoint value";
+    timePoint = TimePoint(*nanoseconds);
+    return {};
+}
+
+} // namespace Qiv::DataModel::MediaAssets::Serialization::Json

@@ -1,0 +1,17 @@
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
+
+#include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
+
+namespace Qiv::DataModel::MediaAssets::Serialization::Json
+{
+
+TimePointToJsonObjectConverter::~TimePointToJsonObjectConverter() = default;
+
+Common::Serialization::Result TimePointToJsonObjectConverter::To(const TimePoints::TimePoint& timePoint,
+                                                                 Common::Serialization::Json::Stringer& stringer) const
+{
+    AppendNanosecondsObject(stringer, "TimePoint", timePoint.Nanoseconds());
+    return {};
+}
+
+} // namespace Qiv::DataModel::MediaAssets::Serialization::Json

@@ -1,0 +1,103 @@
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToMediaIOConverter.h>
+
+#include <Qiv/Common/Serialization/Json/KnownMembers.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToMediaAssetConverter.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToSharedReference.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelReading.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToMetadataProfileDictionaryConverter.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
+{
+
+using namespace Common::Serialization::Json;
+using BusinessEntityModel::BaseTypes::Identifier;
+using BusinessEntityModel::BaseTypes::SharedReference;
+using BusinessEntityModel::BaseTypes::Utf8String;
+using Details::ChannelKey;
+using Details::ChannelMembers;
+using MediaAssets::MediaAsset;
+using MediaAssets::Serialization::Json::JsonToMediaAssetConverter;
+using MediaAssets::Serialization::Json::JsonToSharedReference;
+using Tarvonel::MediaIOs::MediaInput;
+using Tarvonel::MediaIOs::MediaIO;
+using Tarvonel::MediaIOs::MediaOutput;
+
+namespace
+{
+
+// An object that holds only common members is a valid channel.
+Result UnlessEmpty(Result result, const char* emptyMessage)
+{
+    return !result && std::strcmp(result.ErrorMessage(), emptyMessage) == 0 ? Result() : result;
+}
+
+} // namespace
+
+JsonToMediaIOConverter::~JsonToMediaIOConverter() = default;
+
+Result JsonToMediaIOConverter::To(const JsonObject& json, MediaIO& channel) const
+{
+    if (IsEmptyObject(json))
+        return "MediaIO is empty";
+    const ChannelMembers members(json);
+    const auto type = members.Text(ChannelKey::Type);
+    if (!type)
+        return "Invalid JSON type (undefined)";
+
+    if (*type == "MediaInput")
+    {
+        if (channel.GetMode() != MediaIO::Mode::Input)
+            return "Inconsistent types - cannot merge JSON-MediaInput source with MediaOutput destination.";
+        if (auto result = Details::AppendCommon(members, channel); !result)
+            return result;
+        return UnlessEmpty(Details::AppendInput(members, static_cast<MediaInput&>(channel)), "MediaInput is empty");
+    }
+    if (*type == "MediaOutput")
+    {
+        if (channel.GetMode() != MediaIO::Mode::Output)
+            return "Inconsistent types - cannot merge JSON-MediaOutput source with MediaInput destination.";
+        if (auto result = Details::AppendCommon(members, channel); !result)
+            return result;
+        return UnlessEmpty(Details::AppendOutput(members, static_cast<MediaOutput&>(channel)), "MediaOutput is empty");
+    }
+    return std::string("Invalid JSON type ('").append(*type).append("') : 'MediaInput' or 'MediaOutput' expected");
+}
+
+Result JsonToMediaIOConverter::Append(const JsonObject& json, MediaIO& channel) const
+{
+    return Details::AppendCommon(ChannelMembers(json), channel);
+}
+
+Result Details::AppendCommon(const ChannelMembers& members, MediaIO& channel)
+{
+    if (const auto id = members.Text(ChannelKey::Id))
+        channel.Id(Identifier(std::string(*id)));
+
+    if (const auto name = members.Text(ChannelKey::Name))
+        channel.Name(Utf8String(std::string(*name)));
+
+    if (const auto* mediaAssetOnAir = members.Object(ChannelKey::MediaAssetOnAir))
+    {
+        const JsonToSharedReference<MediaAsset> converter("MediaAssetRef", "mediaAsset",
+                                                          std::make_shared<JsonToMediaAssetConverter>());
+        SharedReference<MediaAsset> reference;
+        if (auto result = converter.To(*mediaAssetOnAir, reference); !result)
+            return result;
+        channel.MediaAssetOnAir(reference);
+    }
+
+    if (const auto* metadata = members.Object(ChannelKey::Metadata))
+    {
+        // Dropped on purpose: metadata never fail a channel, and what could be read of them stays.
+        static_cast<void>(JsonToMetadataProfileDictionaryConverter().To(*metadata, channel.Metadata()));
+    }
+
+    return {};
+}
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json

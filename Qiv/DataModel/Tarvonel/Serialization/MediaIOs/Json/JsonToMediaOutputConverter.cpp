@@ -1,0 +1,143 @@
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToMediaOutputConverter.h>
+
+#include <Qiv/Common/Serialization/Json/KnownMembers.h>
+#include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelReading.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToBoundaryConverter.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToSequenceOutputConverter.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToSpeedConverter.h>
+
+#include <charconv>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
+{
+
+using namespace Common::Serialization::Json;
+using Details::ChannelKey;
+using Details::ChannelMembers;
+using MediaAssets::TimecodePrimary;
+using Tarvonel::MediaIOs::Boundary;
+using Tarvonel::MediaIOs::MediaOutput;
+using Tarvonel::MediaIOs::PlayingLoopMode;
+using Tarvonel::MediaIOs::PlayingStatus;
+using Tarvonel::MediaIOs::SequenceOutput;
+using Tarvonel::MediaIOs::Speed;
+using TimePoints::TimePoint;
+
+namespace
+{
+
+// Reads a number as `std::stoll` does: leading blanks and a sign are accepted, and what follows the digits is ignored.
+// Throws what it throws, "stoll", when there is no number or when 64 bits can't hold it. That ends the process, since
+// the caller is declared not to throw. Kept: callers rely on a broken time point on air never going unnoticed.
+std::int64_t LeadingNumber(std::string_view text)
+{
+    std::int64_t number = 0;
+    if (std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc())
+        return number;
+    return std::stoll(std::string(text));
+}
+
+std::optional<TimePoint> TimePointOf(const JsonObject& json)
+{
+    using Key = NanosecondsObjectKeys::Index;
+
+    const KnownMembers<NanosecondsObjectKeys> members(json);
+    const auto* const value = members.Any(Key::Value);
+    if (members.Text(Key::Type) != "TimePoint" || value == nullptr)
+        return std::nullopt;
+    if (value->isString())
+        return TimePoint(LeadingNumber(TextOf(*value)));
+    return value->isInt64() ? std::optional<TimePoint>(TimePoint(value->asInt64())) : std::nullopt;
+}
+
+} // namespace
+
+JsonToMediaOutputConverter::~JsonToMediaOutputConverter() = default;
+
+Result JsonToMediaOutputConverter::To(const JsonObject& json, MediaOutput& channel) const noexcept
+{
+    if (IsEmptyObject(json))
+        return "MediaOutput is empty";
+    const ChannelMembers members(json);
+    if (auto result = CheckType(members.Any(ChannelKey::Type), "MediaOutput"); !result)
+        return result;
+    if (auto result = Details::AppendCommon(members, channel); !result)
+        return result;
+    return Details::AppendOutput(members, channel);
+}
+
+Result JsonToMediaOutputConverter::Append(const JsonObject& json, MediaOutput& channel) const noexcept
+{
+    return Details::AppendOutput(ChannelMembers(json), channel);
+}
+
+// The order of reading differs from the order of writing: "sequence" comes before the members on air. It decides what
+// stays applied when a member fails.
+Result Details::AppendOutput(const ChannelMembers& members, MediaOutput& channel) noexcept
+{
+    if (const auto text = members.Text(ChannelKey::PlayingStatus))
+        channel.PlayingStatus(EnumeratorOf<PlayingStatus>(*text));
+
+    if (const auto* speedOnAir = members.Object(ChannelKey::SpeedOnAir))
+    {
+        Speed speed(0, 0); // not the current speed: a member that the object lacks becomes 0
+        if (auto result = JsonToSpeedConverter().To(*speedOnAir, speed); !result)
+            return result;
+        channel.SpeedOnAir(speed);
+    }
+
+    if (const auto text = members.Text(ChannelKey::GlobalLoopMode))
+        channel.GlobalLoopMode(EnumeratorOf<PlayingLoopMode>(*text));
+
+    if (auto duration = DurationOf(members, ChannelKey::RemainingTime))
+        channel.RemainingTime(*duration);
+
+    if (const auto* sequence = members.Object(ChannelKey::Sequence))
+    {
+        // Never destroyed, so that channels can still be read while the process ends.
+        static const auto& sequenceOutputConverter = *new JsonToSequenceOutputConverter;
+        SequenceOutput sequenceOutput;
+        if (auto result = sequenceOutputConverter.To(*sequence, sequenceOutput); !result)
+            return result;
+        channel.Sequence(sequenceOutput);
+    }
+
+    if (const auto* timePointOnAir = members.Object(ChannelKey::CurrentTimePointOnAir))
+    {
+        if (const auto timePoint = TimePointOf(*timePointOnAir))
+            channel.CurrentTimePointOnAir(*timePoint);
+    }
+
+    if (const auto timeCode = TimeCodeOf(members, ChannelKey::TodTimecodeOnAir))
+        channel.TodTimecodeOnAir(*timeCode);
+
+    if (const auto timeCode = TimeCodeOf(members, ChannelKey::UserTimecodeOnAir))
+        channel.UserTimecodeOnAir(*timeCode);
+
+    if (const auto text = members.Text(ChannelKey::PrimaryTimecodeType))
+        channel.PrimaryTimecodeType(EnumeratorOf<TimecodePrimary>(*text));
+
+    if (const auto* inBoundary = members.Object(ChannelKey::InBoundary))
+    {
+        std::unique_ptr<Boundary> boundary;
+        if (auto result = JsonToBoundaryConverter().To(*inBoundary, boundary); !result)
+            return result;
+        channel.InBoundary(std::move(boundary));
+    }
+
+    if (const auto* outBoundary = members.Object(ChannelKey::OutBoundary))
+    {
+        std::unique_ptr<Boundary> boundary;
+        if (auto result = JsonToBoundaryConverter().To(*outBoundary, boundary); !result)
+            return result;
+        channel.OutBoundary(std::move(boundary));
+    }
+
+    return {};
+}
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json

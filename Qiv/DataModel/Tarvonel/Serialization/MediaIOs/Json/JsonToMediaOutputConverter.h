@@ -1,0 +1,46 @@
+#pragma once
+
+#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaOutput.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Export.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/ConversionTypes.h>
+
+namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
+{
+
+/// Reads a player channel. After the common members (see `JsonToMediaIOConverter`), applied in this order:
+///
+///     "playingStatus":"Playing"                                      unknown text gives Idle
+///     "speedOnAir":{speed}                                           read into 0/0, not into the current speed
+///     "globalLoopMode":"Loop"                                        unknown text gives Unknown
+///     "remainingTime":{"_type":"Duration","value":"<nanoseconds>"}
+///     "sequence":{sequence output}                                   replaces the sequence state
+///     "currentTimePointOnAir":{"_type":"TimePoint","value":"<nanoseconds>" or a number of 64 bits}
+///     "todTimecodeOnAir":"2016-03-21T14:05:09:17@25", "userTimecodeOnAir":"10:00:00;00@30"
+///     "primaryTimecodeType":"User"                                   unknown text gives NotSet
+///     "inBoundary":{boundary}, "outBoundary":{boundary}
+///     "locationOnAir"                                                reserved; any value is accepted and ignored
+///
+/// What is absent, null, of another type, or has a text that no time code or duration has, is skipped without a
+/// message.
+///
+/// Failures: "MediaOutput is empty" and "Invalid type X : MediaOutput expected" leave the channel untouched; those of
+/// nested readers are returned unchanged, with the members before them applied.
+///
+/// **Ends the process** (`std::terminate`) when the "value" text of "currentTimePointOnAir" does not begin with a
+/// number of 64 bits, and when the "origin" of a relative boundary is "Absolute". Both are kept for the callers that
+/// rely on them; check a document from outside before you read it. Declared not to throw: running out of memory inside
+/// ends the process too, and `std::bad_cast` as for `JsonToMediaInputConverter`.
+class QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT JsonToMediaOutputConverter
+    : public FromJsonConverter<Tarvonel::MediaIOs::MediaOutput>
+{
+public:
+    ~JsonToMediaOutputConverter() override;
+
+    using FromJsonConverter::To;
+    Result To(const JsonObject& json, Tarvonel::MediaIOs::MediaOutput& channel) const noexcept override;
+
+    /// Applies the player members only.
+    Result Append(const JsonObject& json, Tarvonel::MediaIOs::MediaOutput& channel) const noexcept;
+};
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json

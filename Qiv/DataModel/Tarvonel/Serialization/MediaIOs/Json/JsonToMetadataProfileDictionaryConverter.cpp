@@ -1,0 +1,89 @@
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToMetadataProfileDictionaryConverter.h>
+
+#include <Qiv/BusinessEntityModel/BaseTypes/GenericMetadataProfile.h>
+#include <Qiv/Common/Serialization/Json/KnownMembers.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/PelOperatorMetadataProfile.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToPelOperatorMetaDataConverter.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
+{
+
+using namespace BusinessEntityModel::BaseTypes;
+using namespace Common::Serialization::Json;
+using Tarvonel::MediaIOs::PelOperatorMetadataProfile;
+
+namespace
+{
+
+constexpr std::string_view operatorName = "qiv.peloperator";
+
+// Both casts throw std::bad_cast when the dictionary holds a profile of another kind under the name.
+
+void ReadOperatorProfile(const JsonObject& json, MetadataProfileDictionary& dictionary)
+{
+    const JsonToPelOperatorMetaDataConverter converter;
+    if (const auto existing = dictionary.Find(FullyQualifiedName(std::string(operatorName))))
+    {
+        // Dropped on purpose: an existing profile keeps what could be read, also when the rest could not.
+        static_cast<void>(converter.To(json, dynamic_cast<PelOperatorMetadataProfile&>(*existing)));
+        return;
+    }
+    PelOperatorMetadataProfile profile;
+    if (converter.To(json, profile))
+        dictionary.Set(std::make_shared<PelOperatorMetadataProfile>(profile));
+}
+
+GenericMetadataProfile& GenericProfile(const FullyQualifiedName& name, MetadataProfileDictionary& dictionary)
+{
+    auto profile = dictionary.Find(name);
+    if (profile == nullptr)
+    {
+        profile = std::make_shared<GenericMetadataProfile>(name);
+        dictionary.Set(profile);
+    }
+    return dynamic_cast<GenericMetadataProfile&>(*profile);
+}
+
+} // namespace
+
+JsonToMetadataProfileDictionaryConverter::~JsonToMetadataProfileDictionaryConverter() = default;
+
+Result JsonToMetadataProfileDictionaryConverter::To(const JsonObject& json, MetadataProfileDictionary& dictionary) const
+{
+    if (IsEmptyObject(json))
+        return {};
+
+    ReadOperatorProfile(json, dictionary);
+
+    // Members of one namespace follow each other, so its profile is looked up once.
+    std::string_view currentNamespace;
+    GenericMetadataProfile* profile = nullptr;
+    for (auto member = json.begin(); member != json.end(); ++member)
+    {
+        const char* nameEnd = nullptr;
+        const char* const nameBegin = member.memberName(&nameEnd);
+        const std::string_view name(nameBegin, static_cast<std::size_t>(nameEnd - nameBegin));
+        const auto lastDot = name.rfind('.');
+        if (!member->isString() || lastDot == std::string_view::npos)
+            continue;
+
+        const auto profileNamespace = name.substr(0, lastDot);
+        // Not only the operator's own namespace: everything that begins with its name is reserved.
+        if (profileNamespace.substr(0, operatorName.size()) == operatorName)
+            continue;
+
+        if (profile == nullptr || profileNamespace != currentNamespace)
+        {
+            profile = &GenericProfile(FullyQualifiedName(std::string(profileNamespace)), dictionary);
+            currentNamespace = profileNamespace;
+        }
+        profile->Set(std::string(name.substr(lastDot + 1)), std::string(TextOf(*member)));
+    }
+    return {};
+}
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json

@@ -1,0 +1,123 @@
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToSequenceOutputConverter.h>
+
+#include <Qiv/BusinessEntityModel/Edits/Serialization/Json/JsonToSequenceConverter.h>
+#include <Qiv/Common/Serialization/Json/KnownMembers.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToMediaAssetConverter.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToSharedReference.h>
+
+#include <memory>
+#include <string>
+
+namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
+{
+
+using namespace Common::Serialization::Json;
+using BusinessEntityModel::BaseTypes::Identifier;
+using BusinessEntityModel::BaseTypes::SharedReference;
+using BusinessEntityModel::Edits::Sequence;
+using BusinessEntityModel::Edits::Serialization::Json::JsonToSequenceConverter;
+using MediaAssets::MediaAsset;
+using MediaAssets::Serialization::Json::JsonToMediaAssetConverter;
+using MediaAssets::Serialization::Json::JsonToSharedReference;
+using Tarvonel::MediaIOs::SequenceOutput;
+
+namespace
+{
+
+struct SequenceOutputKeys
+{
+    enum class Index
+    {
+        Type,
+        AssetBlockOnAir,
+        EditMode,
+        NextAssetBlockOnAir,
+        SequenceOnAir
+    };
+    static constexpr std::array<std::string_view, 5> names{"_type", "assetBlockOnAir", "editMode",
+                                                           "nextAssetBlockOnAir", "sequenceOnAir"};
+};
+
+struct AssetBlockKeys
+{
+    enum class Index
+    {
+        Type,
+        Id,
+        MediaAsset
+    };
+    static constexpr std::array<std::string_view, 3> names{"_type", "id", "mediaAsset"};
+};
+
+} // namespace
+
+JsonToSequenceOutputConverter::~JsonToSequenceOutputConverter() = default;
+
+Result JsonToSequenceOutputConverter::To(const JsonObject& json, SequenceOutput& sequenceOutput) const
+{
+    using Key = SequenceOutputKeys::Index;
+
+    if (IsEmptyObject(json))
+        return "SequenceOutput is empty";
+    const KnownMembers<SequenceOutputKeys> members(json);
+    if (auto result = CheckType(members.Any(Key::Type), "SequenceOutput"); !result)
+        return result;
+
+    if (const auto* sequenceOnAir = members.Object(Key::SequenceOnAir))
+    {
+        const JsonToSharedReference<Sequence> converter("SequenceRef", "sequence",
+                                                        std::make_shared<JsonToSequenceConverter>());
+        SharedReference<Sequence> reference;
+        if (auto result = converter.To(*sequenceOnAir, reference); !result)
+            return result;
+        sequenceOutput.SequenceOnAir(reference);
+    }
+
+    if (const auto* assetBlockOnAir = members.Object(Key::AssetBlockOnAir))
+    {
+        SequenceOutput::AssetBlockOutput assetBlock;
+        if (auto result = ToAssetBlockOutput(*assetBlockOnAir, assetBlock); !result)
+            return result;
+        sequenceOutput.AssetBlockOnAir(assetBlock);
+    }
+
+    if (const auto* nextAssetBlockOnAir = members.Object(Key::NextAssetBlockOnAir))
+    {
+        SequenceOutput::AssetBlockOutput assetBlock;
+        if (auto result = ToAssetBlockOutput(*nextAssetBlockOnAir, assetBlock); !result)
+            return result;
+        sequenceOutput.NextAssetBlockOnAir(assetBlock);
+    }
+
+    if (const auto editMode = members.Bool(Key::EditMode))
+        sequenceOutput.EditMode(*editMode);
+
+    return {};
+}
+
+Result JsonToSequenceOutputConverter::ToAssetBlockOutput(const JsonObject& json,
+                                                         SequenceOutput::AssetBlockOutput& assetBlock) const
+{
+    using Key = AssetBlockKeys::Index;
+
+    const KnownMembers<AssetBlockKeys> members(json);
+    if (auto result = CheckType(members.Any(Key::Type), "AssetBlockOnAir"); !result)
+        return result;
+
+    if (const auto id = members.Text(Key::Id))
+        assetBlock.Id(Identifier(std::string(*id)));
+
+    if (const auto* mediaAsset = members.Object(Key::MediaAsset))
+    {
+        const JsonToSharedReference<MediaAsset> converter("MediaAssetRef", "mediaAsset",
+                                                          std::make_shared<JsonToMediaAssetConverter>());
+        SharedReference<MediaAsset> reference;
+        if (auto result = converter.To(*mediaAsset, reference); !result)
+            return result;
+        assetBlock.MediaAssetRef(reference);
+    }
+
+    return {};
+}
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json

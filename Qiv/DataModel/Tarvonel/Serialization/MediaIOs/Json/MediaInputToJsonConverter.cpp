@@ -1,0 +1,66 @@
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaInputToJsonConverter.h>
+
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelWriting.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaIOToJsonConverter.h>
+
+#include <memory>
+#include <utility>
+
+namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
+{
+
+using Details::AppendUnlessEmpty;
+using MediaAssets::TimecodePrimary;
+using MediaAssets::Serialization::Json::TimePointToJsonObjectConverter;
+using Tarvonel::MediaIOs::MediaInput;
+using TimePoints::TimePoint;
+
+MediaInputToJsonConverter::MediaInputToJsonConverter()
+    : MediaInputToJsonConverter(std::make_shared<TimePointToJsonObjectConverter>())
+{
+}
+
+MediaInputToJsonConverter::MediaInputToJsonConverter(SharedTimePointWriter timepointConverter)
+    : timepointConverter_(std::move(timepointConverter))
+{
+}
+
+MediaInputToJsonConverter::~MediaInputToJsonConverter() = default;
+
+Result MediaInputToJsonConverter::To(const MediaInput& channel, Stringer& stringer) const noexcept
+{
+    stringer.Object();
+    auto result = AppendMediaInput(stringer, channel);
+    stringer.CloseObject();
+    return result;
+}
+
+Result MediaInputToJsonConverter::AppendMediaInput(Stringer& stringer, const MediaInput& channel) const noexcept
+{
+    stringer.Key("_type").Value("MediaInput");
+
+    // Default-constructed on purpose: the common members do not use this converter's time point writer.
+    if (auto result = MediaIOToJsonConverter().AppendMediaIO(channel, stringer); !result)
+        return result;
+
+    stringer.Key("recordingStatus").Value(ToString(channel.RecordingStatus()).c_str());
+
+    if (channel.LastTimePoint() != TimePoint::Empty())
+    {
+        stringer.Key("lastTimePoint");
+        static_cast<void>(timepointConverter_->To(channel.LastTimePoint(), stringer)); // must not fail the channel
+    }
+
+    AppendUnlessEmpty(stringer, "lastTodTimecode", channel.LastTodTimecode());
+    AppendUnlessEmpty(stringer, "lastUserTimecode", channel.LastUserTimecode());
+
+    if (channel.PrimaryTimecodeType() != TimecodePrimary::NotSet)
+        stringer.Key("primaryTimecodeType").Value(ToString(channel.PrimaryTimecodeType()).c_str());
+
+    AppendUnlessEmpty(stringer, "remainingCapacity", channel.RemainingCapacity());
+    AppendUnlessEmpty(stringer, "totalCapacity", channel.TotalCapacity());
+    return {};
+}
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
