@@ -1,0 +1,176 @@
+#include <Qiv/BusinessEntityModel/BaseTypes/GenericMetadataProfile.h>
+#include <Qiv/BusinessEntityModel/BaseTypes/MetadataProfileDictionary.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace Qiv::BusinessEntityModel::BaseTypes
+{
+namespace
+{
+
+using Name = FullyQualifiedName;
+
+static_assert(!std::is_copy_assignable_v<MetadataProfile>, "profiles must not be sliced");
+
+std::shared_ptr<GenericMetadataProfile> MakeProfile(const std::string& name,
+                                                    const GenericMetadataProfile::Dictionary& values)
+{
+    auto profile = std::make_shared<GenericMetadataProfile>(Name(name));
+    for (const auto& [key, value] : values)
+        profile->Set(key, value);
+    return profile;
+}
+
+/// Takes any name, as a profile of another library might.
+class ForeignProfile : public MetadataProfile
+{
+public:
+    explicit ForeignProfile(const std::string& name) : name_(name) {}
+    Name FullyQualifiedName() const override { return name_; }
+    bool Equals(const MetadataProfile&) const override { return true; }
+    std::shared_ptr<MetadataProfile> Clone() const override { return std::make_shared<ForeignProfile>(*this); }
+
+private:
+    Name name_;
+};
+
+TEST(GenericMetadataProfile, IsEqualByNameAndContent)
+{
+    const auto profile = MakeProfile("a.b", {{"k", "v"}, {"l", "w"}});
+    const auto reversed = std::make_shared<GenericMetadataProfile>(Name("a.b"));
+    (*reversed)["l"] = "w";
+    (*reversed)["k"] = "v";
+    EXPECT_TRUE(*profile == *reversed);
+    EXPECT_FALSE(*profile != *reversed);
+    const std::shared_ptr<MetadataProfile> others[] = {
+        MakeProfile("a.c", {{"k", "v"}, {"l", "w"}}),
+        MakeProfile("a", {{"k", "v"}, {"l", "w"}}),
+        MakeProfile("a.b", {{"k", "v"}}),
+        MakeProfile("a.b", {{"k", "v"}, {"l", "w"}, {"m", ""}}),
+        MakeProfile("a.b", {{"k", "v"}, {"l", "W"}}),
+        MakeProfile("a.b", {{"k", "v"}, {"L", "w"}}),
+        std::make_shared<ForeignProfile>("a.b"),
+        std::make_shared<ForeignProfile>("x"),
+    };
+    for (const auto& other : others)
+    {
+        EXPECT_FALSE(*profile == *other) << &other - others;
+        EXPECT_TRUE(*profile != *other) << &other - others;
+    }
+    EXPECT_EQ(profile->ToString(), "a.b");
+}
+
+TEST(GenericMetadataProfile, VisitsPairsInKeyOrderUntilToldToStop)
+{
+    auto profile = MakeProfile("n", {{"b", "2"}, {"a", "1"}, {"\xC3", "4"}, {"c", "3"}});
+    const auto& constant = *profile;
+    std::string seen;
+    const auto visitUntil = [&](const std::string& last)
+    {
+        seen.clear();
+        return constant.Iterate(
+            [&](const std::string& key, const std::string& value)
+            {
+                seen += key + value;
+                return key != last;
+            });
+    };
+    EXPECT_TRUE(visitUntil(""));
+    EXPECT_EQ(seen, "a1b2c3\xC3"
+                    "4");
+    EXPECT_FALSE(visitUntil("a"));
+    EXPECT_EQ(seen, "a1");
+    EXPECT_FALSE(visitUntil("\xC3"));
+
+    EXPECT_TRUE(profile->Iterate([](const std::string& key, std::string& value) { return (value += key, true); }));
+    EXPECT_EQ(profile->Values(), (std::vector<std::string>{"1a", "2b", "3c", "4\xC3"}));
+    EXPECT_EQ(profile->Keys(), (std::vector<std::string>{"a", "b", "c", "\xC3"}));
+
+    const std::function<bool(const std::string&, const std::string&)> none;
+    EXPECT_THROW(constant.Iterate(none), std::bad_function_call);
+    profile->Clear();
+    EXPECT_TRUE(constant.Iterate(none));
+    EXPECT_TRUE(visitUntil("") && seen.empty());
+}
+
+TEST(GenericMetadataProfile, KeepsItsNameAndItsClonesWhenCleared)
+{
+    const auto profile = MakeProfile("n", {{"a", "1"}});
+    const auto clone = profile->Clone();
+    EXPECT_TRUE(*clone == *profile);
+    EXPECT_EQ(profile->Get("absent"), "");
+    EXPECT_FALSE(profile->Contains("absent") || profile->Erase("absent"));
+    EXPECT_EQ(profile->Size(), 1);
+    EXPECT_TRUE(profile->Erase("a"));
+    EXPECT_TRUE(*profile == GenericMetadataProfile(Name("n")));
+    EXPECT_EQ(dynamic_cast<GenericMetadataProfile&>(*clone).Get("a"), "1");
+}
+
+TEST(MetadataProfileDictionary, SharesProfilesWithCopiesButNotWithClones)
+{
+    MetadataProfileDictionary dictionary;
+    const auto profile = MakeProfile("b", {{"k", "v"}});
+    dictionary.Set(profile);
+    dictionary.Set(MakeProfile("a", {}));
+    dictionary.Set(Name("null"), nullptr);
+    const auto copy = dictionary;
+    const auto clone = dictionary.Clone();
+    MetadataProfileDictionary deepCopy;
+    deepCopy.Set(MakeProfile("gone", {}));
+    deepCopy.DeepCopy(dictionary);
+    EXPECT_TRUE(dictionary == copy && dictionary == clone && dictionary == deepCopy);
+    EXPECT_EQ(deepCopy.Keys(), (std::vector<Name>{Name("a"), Name("b"), Name("null")}));
+
+    profile->Set("k", "changed");
+    EXPECT_TRUE(dictionary == copy);
+    EXPECT_TRUE(dictionary != clone && dictionary != deepCopy);
+    deepCopy.DeepCopy(deepCopy);
+    EXPECT_TRUE(deepCopy == clone);
+
+    auto other = dictionary;
+    other.Set(Name("null"), MakeProfile("null", {}));
+    EXPECT_TRUE(dictionary != other && other != dictionary);
+}
+
+TEST(MetadataProfileDictionary, FindsStoresAndErasesByName)
+{
+    MetadataProfileDictionary dictionary;
+    const auto first = MakeProfile("a", {});
+    const auto second = MakeProfile("a", {{"k", "v"}});
+    dictionary.Set(first);
+    dictionary.Set(second);
+    dictionary.Set(Name("null"), nullptr);
+    EXPECT_EQ(dictionary.Size(), 2u);
+    EXPECT_EQ(&dictionary.At(Name("a")), second.get());
+    EXPECT_EQ(dictionary.Find(Name("a")), second);
+    EXPECT_TRUE(dictionary.Contains(Name("null")));
+    EXPECT_EQ(dictionary.Values(), (std::vector<std::shared_ptr<MetadataProfile>>{second, nullptr}));
+    for (const auto& name : {Name("absent"), Name("null")})
+    {
+        EXPECT_EQ(dictionary.Find(name), nullptr);
+        try
+        {
+            static_cast<void>(dictionary[name]);
+            ADD_FAILURE() << name.Value();
+        }
+        catch (const std::out_of_range& error)
+        {
+            EXPECT_STREQ(error.what(), "map::at");
+        }
+    }
+    EXPECT_THROW(dictionary.Set(nullptr), std::invalid_argument);
+    EXPECT_FALSE(dictionary.Erase(Name("absent")) || dictionary.Erase(std::shared_ptr<MetadataProfile>()));
+    EXPECT_TRUE(dictionary.Erase(first)); // by its name
+    EXPECT_TRUE(dictionary.Erase(Name("null")));
+    EXPECT_TRUE(dictionary.Empty());
+}
+
+} // namespace
+} // namespace Qiv::BusinessEntityModel::BaseTypes
