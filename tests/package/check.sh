@@ -26,9 +26,8 @@ multiarch()
 
 check_consumer() # PREFIX LIBRARY_FOLDER
 {
-    local toolchain=() system=/usr/lib/$(multiarch) flags
-    [[ $CXXFLAGS != *-m32* ]] || toolchain=(-DCMAKE_LIBRARY_ARCHITECTURE=i386-linux-gnu)
-    cmake -S "$here/consumer" -B "$scratch/consumer" "-DCMAKE_PREFIX_PATH=$1" "${toolchain[@]}" >"$scratch/log" 2>&1 &&
+    local system=/usr/lib/$(multiarch) flags
+    cmake -G Ninja -S "$here/consumer" -B "$scratch/consumer" "-DCMAKE_PREFIX_PATH=$1" >"$scratch/log" 2>&1 &&
         cmake --build "$scratch/consumer" >"$scratch/log" 2>&1 || fail "find_package: $(cat "$scratch/log")"
     LD_LIBRARY_PATH=$1/$2 "$scratch/consumer/consumer"
 
@@ -73,9 +72,9 @@ check_installed() # BUILD
 # left out: how much of it a library holds depends on what the optimiser inlines.
 exported() # LIBRARY
 {
+    local string='std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >'
     nm --dynamic --defined-only --demangle "$1" | sed -nE 's/^[0-9a-f]+ ([TDBR]|[VW] (typeinfo|vtable)) /\1 /p' |
-        sed -E 's/^([TDBR]|[VW]) //; s/std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >/std::string/g' |
-        grep 'Qiv::' | LC_ALL=C sort -u
+        sed -E "s/^([TDBR]|[VW]) //; s/$string/std::string/g" | grep -F Qiv:: | LC_ALL=C sort -u
 }
 
 check_symbols() # BUILD [--write]
