@@ -59,8 +59,8 @@ inline std::optional<bool> IfBool(const JsonObject* member) noexcept
     return IfType(member, ::Json::booleanValue) ? std::optional<bool>(member->asBool()) : std::nullopt;
 }
 
-/// The failure "Invalid type X : Y expected" when the member "_type" is a text X other than the expected Y; success when
-/// it is that text, has another type, or is absent.
+/// The failure "Invalid type X : Y expected" when the member "_type" is a text X other than the expected Y; success
+/// when it is that text, has another type, or is absent.
 QIV_COMMON_SERIALIZATION_EXPORT Result CheckType(const JsonObject* type, std::string_view expected);
 
 /// Sets `members[i]` to the member `ascendingKeys[i]` of a JSON object and leaves it alone when there is none.
@@ -97,15 +97,26 @@ public:
         FindMembers(json, Keys::names.data(), count, members_.data());
     }
 
+    // Always inline: merged copies of them for two sizes of key set make g++ warn of array bounds.
+
     /// The member, whatever its type; null when it is absent or null.
-    const JsonObject* Any(Index key) const noexcept { return members_[static_cast<std::size_t>(key)]; }
+    [[gnu::always_inline]] const JsonObject* Any(Index key) const noexcept
+    {
+        return members_[static_cast<std::size_t>(key)];
+    }
 
     /// The member when it is of the type, otherwise null or nothing.
-    const JsonObject* Object(Index key) const noexcept { return IfType(Any(key), ::Json::objectValue); }
-    const JsonObject* Array(Index key) const noexcept { return IfType(Any(key), ::Json::arrayValue); }
-    std::optional<std::string_view> Text(Index key) const noexcept { return IfText(Any(key)); }
-    std::optional<std::int32_t> Int(Index key) const noexcept { return IfInt(Any(key)); }
-    std::optional<bool> Bool(Index key) const noexcept { return IfBool(Any(key)); }
+    [[gnu::always_inline]] const JsonObject* Object(Index key) const noexcept
+    {
+        return IfType(Any(key), ::Json::objectValue);
+    }
+    [[gnu::always_inline]] const JsonObject* Array(Index key) const noexcept
+    {
+        return IfType(Any(key), ::Json::arrayValue);
+    }
+    [[gnu::always_inline]] std::optional<std::string_view> Text(Index key) const noexcept { return IfText(Any(key)); }
+    [[gnu::always_inline]] std::optional<std::int32_t> Int(Index key) const noexcept { return IfInt(Any(key)); }
+    [[gnu::always_inline]] std::optional<bool> Bool(Index key) const noexcept { return IfBool(Any(key)); }
 
 private:
     std::array<const JsonObject*, count> members_{};
