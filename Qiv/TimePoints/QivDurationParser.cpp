@@ -1,5 +1,7 @@
 #include <Qiv/TimePoints/QivDurationParser.h>
 
+#include <Qiv/TimePoints/Details/EightCharacters.h>
+
 #include <cstdint>
 #include <stdexcept>
 
@@ -44,13 +46,23 @@ bool QivDurationParser::TryRead(std::string_view text, Duration& duration) noexc
 
     std::uint64_t value = 0;
     bool isTooLarge = false;
-    for (const char character : text)
+    if (text.size() >= 8 && text.size() <= 19) // cannot be too large
     {
-        const unsigned digit = static_cast<unsigned>(static_cast<unsigned char>(character)) - '0';
-        if (digit > 9)
+        std::uint64_t wrong = 0;
+        value = Details::ReadDigits(text, wrong);
+        if (wrong != 0)
             return false;
-        isTooLarge |= value > UINT64_MAX / 10 || (value == UINT64_MAX / 10 && digit > UINT64_MAX % 10);
-        value = 10 * value + digit;
+    }
+    else
+    {
+        for (const char character : text)
+        {
+            const unsigned digit = Details::DigitValue(character);
+            if (digit > 9)
+                return false;
+            isTooLarge |= value > UINT64_MAX / 10 || (value == UINT64_MAX / 10 && digit > UINT64_MAX % 10);
+            value = 10 * value + digit;
+        }
     }
     if (isTooLarge)
         value = UINT64_MAX; // whatever the sign: what reading an unsigned number from a stream gives

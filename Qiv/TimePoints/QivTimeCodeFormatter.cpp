@@ -8,14 +8,18 @@ namespace Qiv::TimePoints
 namespace
 {
 
-/// A "0" stands before every value below 10, negative ones included.
-char* WritePadded(std::int32_t value, char* out) noexcept
+char* WriteUnusual(std::int32_t value, char* out) noexcept
 {
-    if (value >= 0 && value < 100)
-        return Details::WriteTwoDigits(static_cast<std::uint32_t>(value), out);
     if (value < 0)
         *out++ = '0';
     return Details::WriteDecimal(std::int64_t{value}, out);
+}
+
+/// A "0" stands before every value below 10, negative ones included.
+inline char* WritePadded(std::int32_t value, char* out) noexcept
+{
+    const auto unsignedValue = static_cast<std::uint32_t>(value);
+    return unsignedValue < 100 ? Details::WriteTwoDigits(unsignedValue, out) : WriteUnusual(value, out);
 }
 
 char* WriteYear(std::int32_t year, char* out) noexcept
@@ -56,7 +60,8 @@ std::string_view QivTimeCodeFormatter::FormatTo(const TimeCode& timeCode, char* 
     *end++ = timeCode.IsDrop() ? ';' : ':';
     end = WritePadded(clock.sample, end);
     *end++ = '@';
-    end = Details::WriteDecimal(rate, end);
+    end =
+        rate >= 10 && rate < 100 ? WritePadded(static_cast<std::int32_t>(rate), end) : Details::WriteDecimal(rate, end);
     return std::string_view(buffer, static_cast<std::size_t>(end - buffer));
 }
 

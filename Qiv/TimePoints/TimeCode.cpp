@@ -165,8 +165,8 @@ std::int64_t TimeCode::AddSkippedHmsSamplesInNtscDrop(std::int64_t samples) cons
 void TimeCode::DateTimeToSample(std::int32_t year, std::int32_t month, std::int32_t day, std::int32_t hour,
                                 std::int32_t minute, std::int32_t second, std::int32_t sample) noexcept
 {
-    totalSample_ =
-        Details::TotalSampleAt(rate_.Numerator(), isDrop_, {{year, month, day}, {hour, minute, second, sample}});
+    totalSample_ = Details::TotalSampleAt(rate_.Numerator(), isDrop_, Details::DaysTo(year, month, day),
+                                          {hour, minute, second, sample});
 }
 
 std::int64_t TimeCode::DateToDays(std::int32_t year, std::int32_t month, std::int32_t day) noexcept

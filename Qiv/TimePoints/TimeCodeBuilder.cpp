@@ -1,76 +1,25 @@
 #include <Qiv/TimePoints/TimeCodeBuilder.h>
 
 #include <Qiv/TimePoints/CalendarTools.h>
-#include <Qiv/TimePoints/Details/SampleArithmetic.h>
+#include <Qiv/TimePoints/Details/TimeCodeFields.h>
 
 #include <stdexcept>
 #include <string>
 
 namespace Qiv::TimePoints
 {
-namespace
-{
 
-constexpr std::int32_t minimumYear = 1900;
-constexpr std::int32_t maximumYear = 2261;
-
-constexpr bool IsWithin(std::int32_t value, std::int32_t first, std::int32_t last) noexcept
-{
-    return first <= value && value <= last;
-}
-
-} // namespace
-
-enum class TimeCodeBuilder::Check
-{
-    Year,
-    Month,
-    Day,
-    Hour,
-    Minute,
-    Second,
-    Denominator,
-    Sample,
-    DropLabel,
-    DropRate,
-    None
-};
-
-TimeCodeBuilder::Check TimeCodeBuilder::FirstFailedCheck() const noexcept
-{
-    if (!IsWithin(year_, minimumYear, maximumYear))
-        return Check::Year;
-    if (!IsWithin(month_, 1, 12))
-        return Check::Month;
-    if (!IsWithin(day_, 1, CalendarTools::DayPerMonth(year_, month_)))
-        return Check::Day;
-    if (!IsWithin(hour_, 0, 23))
-        return Check::Hour;
-    if (!IsWithin(minute_, 0, 59))
-        return Check::Minute;
-    if (!IsWithin(second_, 0, 59))
-        return Check::Second;
-    if (rate_.Denominator() != 1)
-        return Check::Denominator;
-    if (sample_ >= rate_.Numerator()) // a negative frame passes, on purpose
-        return Check::Sample;
-    if (!isDrop_)
-        return Check::None;
-    // Every rate but 30 has the gap of 60 here, so that 25 may fail for a label before it fails for the rate.
-    if (minute_ % 10 != 0 && second_ == 0 && sample_ <= (rate_.Numerator() == 30 ? 1 : 3))
-        return Check::DropLabel;
-    return rate_.Numerator() == 30 || rate_.Numerator() == 60 ? Check::None : Check::DropRate;
-}
+using Details::Check;
 
 bool TimeCodeBuilder::IsValidToBuildWithexception() const
 {
     using std::to_string;
     const auto fail = [](const std::string& text) { throw std::out_of_range(text); };
-    switch (FirstFailedCheck())
+    switch (Details::FirstFailedCheck(Fields()))
     {
     case Check::Year:
-        fail("year " + to_string(year_) + " must be between " + to_string(minimumYear) + " and " +
-             to_string(maximumYear));
+        fail("year " + to_string(year_) + " must be between " + to_string(Details::minimumYear) + " and " +
+             to_string(Details::maximumYear));
         break;
     case Check::Month:
         fail("month " + to_string(month_) + " must be between 1 and 12");
@@ -110,28 +59,25 @@ bool TimeCodeBuilder::IsValidToBuildWithexception() const
 
 bool TimeCodeBuilder::IsValidToBuild() const noexcept
 {
-    return FirstFailedCheck() == Check::None;
+    return Details::FirstFailedCheck(Fields()) == Check::None;
 }
 
 TimeCode TimeCodeBuilder::Build() const
 {
-    return IsValidToBuildWithexception() ? BuildChecked() : TimeCode::Empty();
+    return IsValidToBuildWithexception() ? Details::Build(Fields()) : TimeCode::Empty();
 }
 
 bool TimeCodeBuilder::TryBuild(TimeCode& timeCode) const noexcept
 {
     if (!IsValidToBuild())
         return false;
-    timeCode = BuildChecked();
+    timeCode = Details::Build(Fields());
     return true;
 }
 
-TimeCode TimeCodeBuilder::BuildChecked() const noexcept
+Details::TimeCodeFields TimeCodeBuilder::Fields() const noexcept
 {
-    const Details::Date date = hasDate_ ? Details::Date{year_, month_, day_} : Details::Date{1970, 1, 1};
-    const std::int64_t totalSample =
-        Details::TotalSampleAt(rate_.Numerator(), isDrop_, {date, {hour_, minute_, second_, sample_}});
-    return TimeCode(totalSample, isDrop_, rate_, hasDate_);
+    return {{year_, month_, day_}, {hour_, minute_, second_, sample_}, rate_, isDrop_, hasDate_};
 }
 
 } // namespace Qiv::TimePoints

@@ -9,6 +9,11 @@
 namespace Qiv::TimePoints
 {
 
+namespace Details
+{
+struct TimeCodeFields;
+}
+
 /// Collects the fields of a time code, checks them and builds it.
 ///
 ///     const TimeCode timeCode = TimeCodeBuilder().Date(2016, 3, 21).ClockTime(14, 5, 9, 17).Rate(Rate(25)).Build();
@@ -58,16 +63,13 @@ public:
     bool TryBuild(TimeCode& timeCode) const noexcept;
 
 private:
-    enum class Check;
-
     template <typename Field>
     TimeCodeBuilder& Set(Field& field, const Field& value) noexcept
     {
         field = value;
         return *this;
     }
-    Check FirstFailedCheck() const noexcept;
-    TimeCode BuildChecked() const noexcept;
+    Details::TimeCodeFields Fields() const noexcept;
 
     std::int32_t year_ = 1970;
     std::int32_t month_ = 1;

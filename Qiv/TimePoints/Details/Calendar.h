@@ -16,11 +16,12 @@ struct Date
     std::int32_t day;
 };
 
+inline constexpr std::int32_t daysBeforeMonth[2][13] = {{0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365},
+                                                        {0, 31, 60, 91, 121, 152, 182, 213, 244, 274, 305, 335, 366}};
+
 /// The days from 1900-01-01 to a date whose values may be any.
-constexpr std::int64_t DaysTo(std::int32_t year, std::int32_t month, std::int32_t day) noexcept
+[[gnu::always_inline]] constexpr std::int64_t DaysTo(std::int32_t year, std::int32_t month, std::int32_t day) noexcept
 {
-    constexpr std::int32_t daysBeforeMonth[2][13] = {{0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365},
-                                                     {0, 31, 60, 91, 121, 152, 182, 213, 244, 274, 305, 335, 366}};
     const std::int32_t lastYear = (year > 1900 ? year : 1900) - 1;                       // [1899, 2147483646]
     const std::int32_t leapYears = lastYear / 4 - lastYear / 100 + lastYear / 400 - 460; // 460 up to 1899
     const std::int32_t monthIndex = month < 1 ? 0 : (month > 13 ? 12 : month - 1);       // [0, 12]

@@ -7,6 +7,7 @@
 #include <Qiv/TimePoints/Details/Wrapping.h>
 
 #include <cstdint>
+#include <type_traits>
 
 namespace Qiv::TimePoints::Details
 {
@@ -46,14 +47,14 @@ constexpr std::int64_t SamplePerDay(std::int64_t rate, bool isDrop) noexcept
     return WrappingMultiply(rate, 86400);
 }
 
-/// The count of samples at a label whose values may be any.
-constexpr std::int64_t TotalSampleAt(std::int64_t rate, bool isDrop, const Label& label) noexcept
+/// The count of samples at a clock time `days` after 1900-01-01; the values may be any.
+[[gnu::always_inline]] constexpr std::int64_t TotalSampleAt(std::int64_t rate, bool isDrop, std::int64_t days,
+                                                            const Clock& clock) noexcept
 {
-    const auto& [date, clock] = label;
     // At rates without drop-frame counting the flag adds the ten-minute correction although nothing is taken off per
     // minute. Such a flag is cleared later, but the count stays: kept on purpose.
     const std::int32_t perTenMinutes = isDrop ? (rate == 60 ? 4 : 2) : 0;
-    std::int64_t total = WrappingMultiply(DaysTo(date.year, date.month, date.day), SamplePerDay(rate, isDrop));
+    std::int64_t total = WrappingMultiply(days, SamplePerDay(rate, isDrop));
     total = WrappingAdd(total, WrappingMultiply(clock.hour, SamplePerHour(rate, isDrop)));
     total = WrappingAdd(total, WrappingMultiply(clock.minute, SamplePerMinute(rate, isDrop)));
     total = WrappingAdd(total, WrappingMultiply(clock.second, rate));
@@ -61,27 +62,23 @@ constexpr std::int64_t TotalSampleAt(std::int64_t rate, bool isDrop, const Label
     return WrappingAdd(total, clock.sample);
 }
 
-/// The position of existing label number `samples` of a day when no label is skipped: adds the skipped labels until
-/// their number fits the minutes passed. The sum is at most 1.0011 times `samples`, so that no 64-bit magnitude
-/// overflows.
-template <unsigned Skipped, unsigned PerMinute, typename Unsigned>
+/// The position of existing label number `samples` when no label is skipped: 18 labels (at 60: 36) are skipped in ten
+/// minutes, 2 (4) at the beginning of each of their minutes but the first. Right for all numbers up to 2^63.
+template <unsigned Skipped, typename Unsigned>
 constexpr Unsigned AddSkippedLabels(Unsigned samples) noexcept
 {
-    Unsigned minutes = 0; // with skipped labels
-    while (true)
-    {
-        const Unsigned more = samples / PerMinute - samples / (10 * PerMinute) - minutes;
-        if (more == 0)
-            return samples;
-        samples += more * Skipped;
-        minutes += more;
-    }
+    constexpr unsigned perMinute = Skipped * 899;      // 1798 = 30 * 60 - 2, 3596 = 60 * 60 - 4
+    constexpr unsigned perTenMinutes = Skipped * 8991; // 17982 = 10 * 1798 + 2, 35964 = 10 * 3596 + 4
+    const Unsigned tenMinutes = samples / perTenMinutes;
+    const Unsigned rest = samples - tenMinutes * perTenMinutes;                 // [0, perTenMinutes)
+    const Unsigned minutes = rest < Skipped ? 0 : (rest - Skipped) / perMinute; // [0, 9]
+    return samples + (9 * tenMinutes + minutes) * Skipped;
 }
 
 template <typename Unsigned>
 constexpr Unsigned AddSkippedLabels(std::int64_t rate, Unsigned samples) noexcept
 {
-    return rate == 60 ? AddSkippedLabels<4, 3600>(samples) : AddSkippedLabels<2, 1800>(samples);
+    return rate == 60 ? AddSkippedLabels<4>(samples) : AddSkippedLabels<2>(samples);
 }
 
 /// The same for any count: whole days are left out, a negative count gives the negated position of its magnitude.
@@ -111,26 +108,43 @@ constexpr Clock ClockOf(std::int64_t rate, bool isDrop, std::int64_t totalSample
             static_cast<std::int32_t>(Remainder(inDay, rate))};
 }
 
-/// Date and clock time of any count of samples. Counts and rates of every day take the short way in 32 bits, which
-/// gives the same.
-constexpr Label LabelOf(std::int64_t rate, bool isDrop, std::int64_t totalSample) noexcept
+/// Date and clock time of a count below 2^39 at a rate of 1 to 49710, in 32 bits. `Rate` is a number or, for the rates
+/// of every day, a constant, which spares the divisions.
+template <typename Rate>
+constexpr Label LabelOfSmallCount(Rate rate, bool isDrop, std::uint64_t total) noexcept
+{
+    // A non-drop day has 128 * 675 * rate samples.
+    const std::uint32_t days = isDrop ? static_cast<std::uint32_t>(rate == 30 ? total / 2589408 : total / 5178816)
+                                      : static_cast<std::uint32_t>(total >> 7) / (rate * 675U);
+    const std::uint32_t perDay = !isDrop ? rate * 86400U : (rate == 30 ? 2589408 : 5178816);
+    const std::uint32_t inDay = static_cast<std::uint32_t>(total) - days * perDay; // modulo 2^32; [0, perDay)
+    const std::uint32_t nominal = isDrop ? AddSkippedLabels(rate, inDay) : inDay;  // [0, 86400 * rate)
+    const std::uint32_t seconds = nominal / rate;                                  // [0, 86399]
+    const std::uint32_t minutes = seconds / 60;                                    // [0, 1439]
+    return {DateAfter(days),
+            {static_cast<std::int32_t>(minutes / 60), static_cast<std::int32_t>(minutes % 60),
+             static_cast<std::int32_t>(seconds % 60), static_cast<std::int32_t>(nominal - seconds * rate)}};
+}
+
+/// Date and clock time of any count of samples.
+[[gnu::always_inline]] constexpr Label LabelOf(std::int64_t rate, bool isDrop, std::int64_t totalSample) noexcept
 {
     if (totalSample < 0 || totalSample >= (std::int64_t{1} << 39) || rate < 1 || rate > 49710)
         return {DateAfter(DaysOf(rate, isDrop, totalSample)), ClockOf(rate, isDrop, totalSample)};
-
-    // A non-drop day has 128 * 675 * rate samples, which leaves 32 bits to divide.
-    const auto total = static_cast<std::uint64_t>(totalSample); // [0, 2^39)
-    const auto rate32 = static_cast<std::uint32_t>(rate);       // [1, 49710]
-    const std::uint32_t days = isDrop ? static_cast<std::uint32_t>(rate == 30 ? total / 2589408 : total / 5178816)
-                                      : static_cast<std::uint32_t>(total >> 7) / (rate32 * 675);
-    const auto perDay = static_cast<std::uint32_t>(SamplePerDay(rate, isDrop));   // [86400, 2^32)
-    const auto inDay = static_cast<std::uint32_t>(total) - days * perDay;         // modulo 2^32; [0, perDay)
-    const std::uint32_t nominal = isDrop ? AddSkippedLabels(rate, inDay) : inDay; // [0, 86400 * rate)
-    const std::uint32_t seconds = nominal / rate32;                               // [0, 86399]
-    const std::uint32_t minutes = seconds / 60;                                   // [0, 1439]
-    return {DateAfter(days),
-            {static_cast<std::int32_t>(minutes / 60), static_cast<std::int32_t>(minutes % 60),
-             static_cast<std::int32_t>(seconds % 60), static_cast<std::int32_t>(nominal - seconds * rate32)}};
+    const auto total = static_cast<std::uint64_t>(totalSample);
+    switch (rate)
+    {
+    case 25:
+        return LabelOfSmallCount(std::integral_constant<std::uint32_t, 25>(), isDrop, total);
+    case 30:
+        return LabelOfSmallCount(std::integral_constant<std::uint32_t, 30>(), isDrop, total);
+    case 50:
+        return LabelOfSmallCount(std::integral_constant<std::uint32_t, 50>(), isDrop, total);
+    case 60:
+        return LabelOfSmallCount(std::integral_constant<std::uint32_t, 60>(), isDrop, total);
+    default:
+        return LabelOfSmallCount(static_cast<std::uint32_t>(rate), isDrop, total);
+    }
 }
 
 } // namespace Qiv::TimePoints::Details

@@ -21,17 +21,15 @@ inline char* WriteTwoDigits(std::uint32_t value, char* out) noexcept // value be
 
 inline char* WriteDecimal(std::uint32_t value, char* out) noexcept
 {
-    char digits[10];
-    char* first = digits + sizeof digits;
-    for (; value >= 100; value /= 100)
-        WriteTwoDigits(value % 100, first -= 2);
-    if (value >= 10)
-        WriteTwoDigits(value, first -= 2);
-    else
-        *--first = static_cast<char>('0' + value);
-    const auto length = static_cast<std::size_t>(digits + sizeof digits - first);
-    std::memcpy(out, first, length);
-    return out + length;
+    if (value < 10)
+    {
+        *out = static_cast<char>('0' + value);
+        return out + 1;
+    }
+    if (value < 100)
+        return WriteTwoDigits(value, out);
+    out = WriteDecimal(value / 100, out);
+    return WriteTwoDigits(value % 100, out);
 }
 
 /// At most 20 characters. Splits the number by 10^9, since divisions of 64 bits are slow on 32-bit processors.

@@ -1,0 +1,86 @@
+#pragma once
+
+// The fields of a time code to be, their checks and the time code they make. The builder shows this to the world; the
+// parser uses it at once, so that a text becomes a time code without leaving the registers.
+
+#include <Qiv/TimePoints/CalendarTools.h>
+#include <Qiv/TimePoints/Details/SampleArithmetic.h>
+#include <Qiv/TimePoints/Rate.h>
+#include <Qiv/TimePoints/TimeCode.h>
+
+#include <cstdint>
+
+namespace Qiv::TimePoints::Details
+{
+
+struct TimeCodeFields
+{
+    Date date;
+    Clock clock;
+    Rate rate;
+    bool isDrop;
+    bool hasDate;
+};
+
+/// In the order in which the values are checked.
+enum class Check
+{
+    Year,
+    Month,
+    Day,
+    Hour,
+    Minute,
+    Second,
+    Denominator,
+    Sample,
+    DropLabel,
+    DropRate,
+    None
+};
+
+constexpr std::int32_t minimumYear = 1900;
+constexpr std::int32_t maximumYear = 2261;
+
+constexpr bool IsWithin(std::int32_t value, std::int32_t first, std::int32_t last) noexcept
+{
+    return first <= value && value <= last;
+}
+
+/// The check that the fields do not pass, or `None`. The date is checked also when there is none.
+[[gnu::always_inline]] constexpr Check FirstFailedCheck(const TimeCodeFields& fields) noexcept
+{
+    const auto& [date, clock, rate, isDrop, hasDate] = fields;
+    const std::int64_t numerator = rate.Numerator();
+    if (!IsWithin(date.year, minimumYear, maximumYear))
+        return Check::Year;
+    if (!IsWithin(date.month, 1, 12))
+        return Check::Month;
+    if (!IsWithin(date.day, 1, CalendarTools::DayPerMonth(date.year, date.month)))
+        return Check::Day;
+    if (!IsWithin(clock.hour, 0, 23))
+        return Check::Hour;
+    if (!IsWithin(clock.minute, 0, 59))
+        return Check::Minute;
+    if (!IsWithin(clock.second, 0, 59))
+        return Check::Second;
+    if (rate.Denominator() != 1)
+        return Check::Denominator;
+    if (clock.sample >= numerator) // a negative frame passes, on purpose
+        return Check::Sample;
+    if (!isDrop)
+        return Check::None;
+    // Every rate but 30 has the gap of 60 here, so that 25 may fail for a label before it fails for the rate.
+    if (clock.minute % 10 != 0 && clock.second == 0 && clock.sample <= (numerator == 30 ? 1 : 3))
+        return Check::DropLabel;
+    return numerator == 30 || numerator == 60 ? Check::None : Check::DropRate;
+}
+
+/// The time code of fields that pass the checks.
+[[gnu::always_inline]] constexpr TimeCode Build(const TimeCodeFields& fields) noexcept
+{
+    const auto& [date, clock, rate, isDrop, hasDate] = fields;
+    const std::int64_t days = hasDate ? DaysTo(date.year, date.month, date.day) : 25567; // 1970-01-01
+    return TimeCode(TotalSampleAt(rate.Numerator(), isDrop, days, clock), isDrop, rate, hasDate);
+}
+
+} // namespace Qiv::TimePoints::Details
