@@ -1,0 +1,320 @@
+#include <Qiv/TimePoints/TimeCode.h>
+
+#include <Qiv/TimePoints/CalendarTools.h>
+#include <Qiv/TimePoints/Details/SampleArithmetic.h>
+#include <Qiv/TimePoints/QivTimeCodeFormatter.h>
+#include <Qiv/TimePoints/QivTimeCodeParser.h>
+#include <Qiv/TimePoints/TimeCodeBuilder.h>
+
+#include <gtest/gtest.h>
+
+#include <cinttypes>
+#include <cstdio>
+#include <random>
+#include <sstream>
+#include <stdexcept>
+#include <type_traits>
+#include <unordered_set>
+
+namespace Qiv::TimePoints
+{
+namespace
+{
+
+static_assert(std::is_trivially_copyable_v<TimeCode> && std::is_nothrow_copy_constructible_v<TimeCode>);
+// The flag at a rate without drop-frame counting: the ten-minute correction is added, nothing is taken off.
+static_assert(Details::TotalSampleAt(25, true, 1, {0, 25, 0, 3}) == 25 * (86400 + 1500) + 4 + 3);
+
+std::string Print(const char* separator, std::int64_t year, std::int64_t month, std::int64_t day, std::int64_t hour,
+                  std::int64_t minute, std::int64_t second, std::int64_t sample, std::int64_t rate)
+{
+    std::string text = std::to_string(year);
+    const auto add = [&](const char* before, std::int64_t value)
+    { text += before + std::string(value < 10 ? "0" : "") + std::to_string(static_cast<std::int32_t>(value)); };
+    add("-", month);
+    add("-", day);
+    add("T", hour);
+    add(":", minute);
+    add(":", second);
+    add(separator, sample);
+    return text + "@" + std::to_string(rate);
+}
+
+// The loops that define day counts, skipped labels and text; the library has closed forms.
+
+bool IsLeap(std::int64_t year)
+{
+    return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+}
+
+std::int64_t DaysByLoop(std::int32_t year, std::int32_t month, std::int32_t day)
+{
+    std::int64_t days = 0;
+    for (std::int32_t y = 1900; y < year; ++y)
+        days += IsLeap(y) ? 366 : 365;
+    for (std::int32_t m = 1; m < month; ++m)
+        days += CalendarTools::DayPerMonth(year, m);
+    return days + day - 1;
+}
+
+std::int64_t SkippedByLoop(std::int64_t rate, std::int64_t samplePerDay, std::int64_t samples)
+{
+    const std::int64_t step = rate == 60 ? 4 : 2;
+    const std::int64_t minute = rate == 60 ? 3600 : 1800;
+    std::int64_t s = samples % samplePerDay;
+    for (std::int64_t added = 0, k = 1; k != 0; added += k)
+    {
+        k = s / minute - s / (10 * minute) - added;
+        s += k * step;
+    }
+    return s;
+}
+
+std::string FormatByLoop(const TimeCode& timeCode)
+{
+    const std::int64_t rate = timeCode.Rate().Numerator();
+    const std::int64_t perDay = timeCode.SamplePerDay();
+    const std::int64_t inDay = timeCode.TotalSample() % perDay;
+    const std::int64_t nominal = timeCode.IsDrop() ? SkippedByLoop(rate, perDay, inDay) : inDay;
+    std::int64_t year = 1900, month = 1, days = timeCode.TotalSample() / perDay;
+    for (; days >= (IsLeap(year) ? 366 : 365); ++year)
+        days -= IsLeap(year) ? 366 : 365;
+    for (; days >= CalendarTools::DayPerMonth(IsLeap(year), static_cast<int>(month)); ++month)
+        days -= CalendarTools::DayPerMonth(IsLeap(year), static_cast<int>(month));
+    ++days;
+    if (!timeCode.HasDate())
+        year = month = days = -1;
+    return Print(timeCode.IsDrop() ? ";" : ":", year, month, days, nominal / (3600 * rate),
+                 nominal % (3600 * rate) / (60 * rate), nominal % (60 * rate) / rate, nominal % rate, rate);
+}
+
+std::string PrintFields(const TimeCode& t)
+{
+    return Print(t.IsDrop() ? ";" : ":", t.Year(), t.Month(), t.Day(), t.Hour(), t.Minute(), t.Second(), t.Sample(),
+                 t.Rate().Numerator());
+}
+
+TEST(TimeCode, NumbersEveryDateFrom1900To2261)
+{
+    std::int64_t days = 0;
+    for (int year = 1900; year <= 2261; ++year)
+        for (int month = 1; month <= 12; ++month)
+            for (int day = 1; day <= CalendarTools::DayPerMonth(IsLeap(year), month); ++day, ++days)
+            {
+                const TimeCode timeCode(year, month, day, 23, 59, 59, 24, Rate(25), false);
+                ASSERT_EQ(timeCode.TotalSample(), (days + 1) * 2160000 - 1);
+                ASSERT_EQ(timeCode.ToString(), Print(":", year, month, day, 23, 59, 59, 24, 25));
+                ASSERT_EQ(PrintFields(timeCode), timeCode.ToString());
+            }
+    EXPECT_EQ(days, TimeCode::DateToDays(2262, 1, 1));
+}
+
+class LabelsOfADay : public testing::TestWithParam<std::pair<int, bool>>
+{
+};
+
+TEST_P(LabelsOfADay, AreConsecutiveSamplesAndFormatBackToThemselves)
+{
+    const auto [rate, isDrop] = GetParam();
+    std::int64_t total = TimeCode(2016, 2, 29, 0, 0, 0, 0, Rate(rate), isDrop).TotalSample();
+    const std::int64_t first = total;
+    std::string expected = (isDrop ? "2016-02-29T00:00:00;00@" : "2016-02-29T00:00:00:00@") + std::to_string(rate);
+    std::string withThreeDigits = expected; // of the frame
+    withThreeDigits.insert(20, "1");
+    const auto put = [&](std::size_t position, int value)
+    {
+        expected[position] = static_cast<char>('0' + value / 10);
+        expected[position + 1] = static_cast<char>('0' + value % 10);
+    };
+    char buffer[QivTimeCodeFormatter::MaximumLength];
+    for (int time = 0; time < 86400; ++time)
+    {
+        put(11, time / 3600);
+        put(14, time / 60 % 60);
+        put(17, time % 60);
+        withThreeDigits.replace(0, 20, expected, 0, 20);
+        const bool isGap = isDrop && time % 60 == 0 && time % 600 != 0;
+        for (int frame = isGap ? rate / 15 : 0; frame < rate; ++frame, ++total)
+        {
+            put(20, frame % 100);
+            withThreeDigits.replace(21, 2, expected, 20, 2);
+            const std::string& label = frame < 100 ? expected : withThreeDigits;
+            if (QivTimeCodeFormatter::FormatTo(TimeCode(total, isDrop, Rate(rate), true), buffer) != label)
+                FAIL() << label << " is written as " << buffer;
+            TimeCode read;
+            if (frame < 100 && !(QivTimeCodeParser::TryRead(label, read) && read.TotalSample() == total))
+                FAIL() << label << " is read as " << read.TotalSample() << ", not " << total;
+        }
+    }
+    EXPECT_EQ(total - first, TimeCode(0, isDrop, Rate(rate), true).SamplePerDay());
+}
+
+INSTANTIATE_TEST_SUITE_P(TimeCode, LabelsOfADay,
+                         testing::Values(std::pair(30, true), std::pair(60, true), std::pair(24, false),
+                                         std::pair(25, false), std::pair(30, false), std::pair(48, false),
+                                         std::pair(50, false), std::pair(60, false), std::pair(100, false),
+                                         std::pair(120, false)));
+
+TEST(TimeCode, AgreesWithTheDefiningLoopsForAnyFields)
+{
+    std::mt19937_64 random(20160321);
+    const auto within = [&](std::int64_t first, std::int64_t last)
+    { return std::uniform_int_distribution<std::int64_t>(first, last)(random); };
+    for (const std::int64_t rate : {1, 24, 25, 30, 50, 60, 119, 49710, 49711, 30000, 1000000, 2147483647, -1, -30})
+        for (int i = 0; i < 3000; ++i)
+        {
+            const bool hasDate = i % 7 != 0;
+            TimeCode timeCode(0, i % 2 == 0, Rate(rate), hasDate);
+            const std::int64_t days = i % 3 == 0 ? within(-3, 3) : within(-1000, 40000); // in 64 bits at every rate
+            timeCode += days * timeCode.SamplePerDay() + within(-100000, 100000);
+            ASSERT_EQ(timeCode.ToString(), FormatByLoop(timeCode));
+            ASSERT_EQ(PrintFields(timeCode), timeCode.ToString());
+            ASSERT_EQ(timeCode.AddSkippedHmsSamplesInNtscDrop(timeCode.TotalSample()),
+                      SkippedByLoop(rate, timeCode.SamplePerDay(), timeCode.TotalSample()));
+
+            const auto year = static_cast<std::int32_t>(within(-500, 4000));
+            const auto month = static_cast<std::int32_t>(within(-2, 13));
+            const auto any = [&] { return static_cast<std::int32_t>(within(-5000, 5000)); };
+            const std::int32_t day = any(), hour = any() / 10, minute = any(), second = any(), sample = any();
+            ASSERT_EQ(TimeCode::DateToDays(year, month, day), DaysByLoop(year, month, day)) << year << " " << month;
+            timeCode.DateTimeToSample(year % 2000, month, day, hour, minute, second, sample);
+            const bool isDrop = timeCode.IsDrop();
+            ASSERT_EQ(timeCode.TotalSample(), DaysByLoop(year % 2000, month, day) * timeCode.SamplePerDay() +
+                                                  hour * timeCode.SamplePerHour(isDrop) +
+                                                  minute * timeCode.SamplePerMinute(isDrop) + second * rate +
+                                                  (isDrop ? rate / 15 * (minute / 10) : 0) + sample);
+        }
+    // No loop gets that far; 400 years have 146097 days.
+    EXPECT_EQ(TimeCode::DateToDays(2147483647, 13, 1) - TimeCode::DateToDays(2047, 13, 1),
+              146097LL * (2147481600 / 400));
+    EXPECT_EQ(TimeCode::DateToDays(2023, 2147483647, 1), TimeCode::DateToDays(2024, 1, 1));
+}
+
+TEST(TimeCode, KeepsTheKnownCounts)
+{
+    EXPECT_EQ(TimeCode::DateToDays(1970, 1, 1), 25567);
+    EXPECT_EQ(TimeCode(10, 0, 0, 0, Rate(25), false).TotalSample(), 25567LL * 2160000 + 36000 * 25);
+    EXPECT_EQ(TimeCode(1900, 1, 1, 0, 1, 0, 2, Rate(30), true).TotalSample(), 1800);
+    EXPECT_EQ(TimeCode(1900, 1, 1, 0, 10, 0, 0, Rate(30), true).TotalSample(), 17982);
+    EXPECT_EQ(TimeCode(0, true, Rate(30000, 1001), true).SamplePerDay(), 30000LL * 86400);
+    const TimeCode drop30(0, true, Rate(30), true);
+    EXPECT_EQ(drop30.AddSkippedHmsSamplesInNtscDrop(1800), 1802);
+    EXPECT_EQ(drop30.AddSkippedHmsSamplesInNtscDrop(17982), 18000);
+    EXPECT_EQ(drop30.AddSkippedHmsSamplesInNtscDrop(2589408), 0);
+    EXPECT_EQ(TimeCode().ToString(), "1900-01-01T00:00:00:00@50");
+    EXPECT_TRUE(TimeCode().IsEmpty() && TimeCode() == TimeCode(0, false, Rate(50, 1), true));
+    EXPECT_FALSE(TimeCode(0, true, Rate(25), true).IsDrop());
+}
+
+TEST(TimeCode, HasNoUndefinedBehaviourForAnyFields)
+{
+    constexpr std::int64_t minimum = INT64_MIN, maximum = INT64_MAX;
+    std::unordered_set<TimeCode> different;
+    for (const std::int64_t rate : {std::int64_t{0}, std::int64_t{-1}, std::int64_t{30}, std::int64_t{60}, minimum,
+                                    maximum, std::int64_t{1} << 57, std::int64_t{1} << 62, maximum / 86400})
+        for (const std::int64_t total : {minimum, minimum + 1, std::int64_t{-1}, std::int64_t{1} << 39, maximum})
+        {
+            TimeCode timeCode(total, true, Rate(rate), true);
+            const std::string text = timeCode.ToString();
+            EXPECT_LE(text.size(), QivTimeCodeFormatter::MaximumLength);
+            EXPECT_EQ(text.substr(text.find('-', 1)), PrintFields(timeCode).substr(text.find('-', 1))) << text;
+            timeCode.AddSkippedHmsSamplesInNtscDrop(total);
+            timeCode.DateTimeToSample(INT32_MAX, INT32_MIN, INT32_MIN, INT32_MAX, INT32_MIN, INT32_MIN, INT32_MAX);
+            ++--timeCode;
+            EXPECT_TRUE(different.insert(timeCode += total).second || rate == 0);
+        }
+    EXPECT_EQ(TimeCode(maximum, false, Rate(0), true).ToString(), "1900-01-01T00:00:00:00@0");
+    EXPECT_EQ(TimeCode(-25, false, Rate(25), true).ToString(), "1900-01-01T00:00:0-1:00@25");
+    EXPECT_EQ(TimeCode(minimum, false, Rate(1), true).ToString(), "1900-01-0-579025219T0-15:0-30:0-8:00@1");
+    EXPECT_EQ(TimeCode(maximum, false, Rate(1), true).Hour(), 15);
+    EXPECT_EQ(TimeCode(minimum, false, Rate(25), true) - TimeCode(maximum, false, Rate(25), true), 1);
+}
+
+TEST(TimeCode, MovesAndComparesByExistingLabels)
+{
+    const TimeCode before(2016, 3, 21, 0, 0, 59, 29, Rate(30), true);
+    TimeCode timeCode = before;
+    EXPECT_EQ((timeCode++).ToString(), "2016-03-21T00:00:59;29@30");
+    EXPECT_EQ(timeCode.ToString(), "2016-03-21T00:01:00;02@30");
+    EXPECT_EQ((timeCode--) - before, 1);
+    EXPECT_EQ(timeCode, before);
+    EXPECT_EQ((before + 2589408).ToString(), "2016-03-22T00:00:59;29@30");
+    EXPECT_EQ((before - 30).ToString(), "2016-03-21T00:00:58;29@30");
+    EXPECT_TRUE(before < before + 1 && before + 1 > before && before <= before && before >= before);
+    EXPECT_FALSE(before < before || before > before || before >= before + 1 || before + 1 <= before);
+
+    const TimeCode undated(before.TotalSample(), true, Rate(30), false);
+    EXPECT_TRUE(undated != before && undated <= before && undated >= before && undated.IsCompatible(before));
+    const TimeCode nonDrop(before.TotalSample(), false, Rate(30), true);
+    for (const auto& use : {+[](const TimeCode&a, const TimeCode&b) { a.Substract(b); },
+                            +[](const TimeCode&a, const TimeCode&b) { static_cast<void>(a < b); }})
+        try
+        {
+            use(before, nonDrop);
+            ADD_FAILURE();
+        }
+        catch (const std::invalid_argument& error)
+        {
+            EXPECT_NE(std::string(error.what()).find(before.ToString()), std::string::npos) << error.what();
+            EXPECT_NE(std::string(error.what()).find(nonDrop.ToString()), std::string::npos) << error.what();
+        }
+}
+
+TEST(TimeCodeBuilder, ReportsTheFirstFailedCheck)
+{
+    const auto error = [](TimeCodeBuilder builder) -> std::string
+    {
+        TimeCode untouched(7, false, Rate(7), true);
+        EXPECT_EQ(builder.TryBuild(untouched), builder.IsValidToBuild());
+        EXPECT_EQ(untouched == TimeCode(7, false, Rate(7), true), !builder.IsValidToBuild());
+        try
+        {
+            EXPECT_EQ(builder.Build(), untouched);
+            EXPECT_TRUE(builder.IsValidToBuildWithexception() && builder.IsValidToBuild());
+            return "";
+        }
+        catch (const std::out_of_range& failure)
+        {
+            EXPECT_FALSE(builder.IsValidToBuild());
+            return failure.what();
+        }
+    };
+    const auto date = [&](int year, int month, int day) { return error(TimeCodeBuilder().Date(year, month, day)); };
+    const auto time = [&](int hour, int minute, int second, int sample, Rate rate = Rate(25), bool isDrop = false)
+    { return error(TimeCodeBuilder().ClockTime(hour, minute, second, sample).Rate(rate).IsDrop(isDrop)); };
+    EXPECT_EQ(date(2261, 12, 31) + date(2000, 2, 29) + date(2004, 2, 29) + date(1900, 1, 1), "");
+    EXPECT_EQ(date(2262, 13, 0), "year 2262 must be between 1900 and 2261");
+    EXPECT_EQ(date(1899, 1, 1), "year 1899 must be between 1900 and 2261");
+    EXPECT_EQ(date(2000, 0, 0), "month 0 must be between 1 and 12");
+    EXPECT_EQ(date(2000, 13, 1), "month 13 must be between 1 and 12");
+    EXPECT_EQ(date(2100, 2, 29), "day 29is negative or greater than 28 in month 2");
+    EXPECT_EQ(date(1900, 2, 29), "day 29is negative or greater than 28 in month 2");
+    EXPECT_EQ(date(2000, 4, 0), "day 0is negative or greater than 30 in month 4");
+    EXPECT_EQ(error(TimeCodeBuilder().Day(32)), "day 32is negative or greater than 31 in month 1"); // also without date
+    EXPECT_EQ(time(23, 59, 59, 24) + time(0, 0, 0, -5) + time(0, 0, 0, -1, Rate(0)), "");
+    EXPECT_EQ(time(24, 60, 60, 99), "hour 24 must be between 0 and 23");
+    EXPECT_EQ(time(0, -1, 60, 99), "minute -1 must be between 0 and 59");
+    EXPECT_EQ(time(0, 0, 60, 99), "second 60 must be between 0 and 59");
+    EXPECT_EQ(time(0, 0, 0, 99999, Rate(30000, 1001)), "Denominator 1001 must be between equals to 1");
+    EXPECT_EQ(time(0, 0, 0, 25), "Sample 25 is greater than numerator ratio 25");
+    EXPECT_EQ(time(0, 1, 0, 2, Rate(30), true) + time(0, 10, 0, 0, Rate(30), true), "");
+    EXPECT_EQ(time(0, 1, 0, 1, Rate(30), true), "In dropped TimeCode, this value doesn't exist 1:0;1");
+    EXPECT_EQ(time(0, 1, 0, 4, Rate(60), true) + time(0, 1, 1, 0, Rate(60), true), "");
+    EXPECT_EQ(time(0, 1, 0, 3, Rate(60), true), "In dropped TimeCode, this value doesn't exist 1:0;3");
+    EXPECT_EQ(time(0, 1, 0, 2, Rate(25), true), "In dropped TimeCode, this value doesn't exist 1:0;2");
+    EXPECT_EQ(time(0, 1, 1, 2, Rate(25), true), "Rate 25 / 1 is not compatible with drop TC format");
+    EXPECT_THROW(TimeCode(24, 0, 0, 0, Rate(25), false), std::out_of_range);
+
+    EXPECT_EQ(TimeCodeBuilder().Build(), TimeCode(25567LL * 86400 * 50, false, Rate(50), false));
+    EXPECT_TRUE(TimeCodeBuilder().Date(2000, 1, 1).ClockTime(1, 2, 3, 4).Build().HasDate());
+    EXPECT_EQ(TimeCodeBuilder().Date(2000, 1, 1).HasDate(false).Build(), TimeCodeBuilder().Build());
+}
+
+TEST(CalendarTools, KnowsNoMonthOutsideTheYear)
+{
+    EXPECT_EQ(CalendarTools::DayPerMonth(2000, 2) + CalendarTools::DayPerMonth(false, 2), 29 + 28);
+    EXPECT_EQ(CalendarTools::DayPerMonth(2000, 0) + CalendarTools::DayPerMonth(true, 13), 0);
+}
+
+} // namespace
+} // namespace Qiv::TimePoints
