@@ -28,7 +28,6 @@ template <typename Enumeration>
 void Check(const std::vector<std::string>& texts, Enumeration (&convert)(const std::string&), Enumeration fallback)
 {
     static_assert(std::is_same_v<std::underlying_type_t<Enumeration>, std::int32_t>);
-    static_assert(std::is_same_v<decltype(ToString(fallback)), const std::string&>);
     for (std::size_t i = 0; i < texts.size(); ++i)
     {
         const auto value = static_cast<Enumeration>(i);
