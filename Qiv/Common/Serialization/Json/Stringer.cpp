@@ -30,6 +30,17 @@ std::uint64_t BytesToHandle(std::uint64_t word) noexcept
     return (control | quote | backslash | word) & (everyByte * 0x80U);
 }
 
+bool NeedsHandling(char character) noexcept
+{
+    const auto byte = static_cast<unsigned char>(character);
+    return byte < 0x20 || byte == '"' || byte == '\\' || byte >= 0x80;
+}
+
+bool IsNonAscii(char character) noexcept
+{
+    return static_cast<unsigned char>(character) >= 0x80;
+}
+
 template <typename T>
 T Load(const char* text) noexcept
 {
@@ -38,23 +49,45 @@ T Load(const char* text) noexcept
     return value;
 }
 
-// The last bytes of a text, fewer than a word, as a word filled up with zeros.
-std::uint64_t LoadTail(const char* text, std::size_t size) noexcept
+// Copies a text that needs no escape; returns false, with part of it copied, when it needs one. Copies words, the last
+// of which overlaps the one before it.
+bool CopyPlain(char* to, const char* from, std::size_t size) noexcept
 {
-    if (size >= 4)
+    if (size >= wordSize)
     {
-        const std::uint64_t low = Load<std::uint32_t>(text);
-        const std::uint64_t high = Load<std::uint32_t>(text + size - 4);
-        return low | high << (8 * (size - 4));
+        const auto last = size - wordSize;
+        const auto lastWord = Load<std::uint64_t>(from + last);
+        auto found = BytesToHandle(lastWord);
+        for (std::size_t i = 0; i < last; i += wordSize)
+        {
+            const auto word = Load<std::uint64_t>(from + i);
+            std::memcpy(to + i, &word, wordSize);
+            found |= BytesToHandle(word);
+        }
+        std::memcpy(to + last, &lastWord, wordSize);
+        return found == 0;
     }
-    if (size == 0)
-        return 0;
-    const auto byte = [text](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(text[i])} << (8 * i); };
-    return byte(0) | byte(size / 2) | byte(size - 1);
+    if (size >= wordSize / 2)
+    {
+        const auto last = size - wordSize / 2;
+        const auto firstHalf = Load<std::uint32_t>(from);
+        const auto lastHalf = Load<std::uint32_t>(from + last);
+        std::memcpy(to, &firstHalf, sizeof firstHalf);
+        std::memcpy(to + last, &lastHalf, sizeof lastHalf);
+        return BytesToHandle(std::uint64_t{firstHalf} << 32U | lastHalf) == 0;
+    }
+    for (std::size_t i = 0; i < size; ++i)
+    {
+        to[i] = from[i];
+        if (NeedsHandling(from[i]))
+            return false;
+    }
+    return true;
 }
 
-// Copies bytes that need no escape, and garbage behind them up to a word; returns how many there were.
-std::size_t CopyPlain(char* to, const char* from, std::size_t size) noexcept
+// Copies the bytes in front of the first one that needs an escape, and garbage behind them up to a word; returns how
+// many there were.
+std::size_t CopyUpToEscape(char* to, const char* from, std::size_t size) noexcept
 {
     std::size_t copied = 0;
     for (; size - copied >= wordSize; copied += wordSize)
@@ -64,11 +97,9 @@ std::size_t CopyPlain(char* to, const char* from, std::size_t size) noexcept
         if (const auto found = BytesToHandle(word))
             return copied + static_cast<std::size_t>(__builtin_ctzll(found)) / 8;
     }
-    const auto left = size - copied;
-    const auto word = LoadTail(from + copied, left);
-    std::memcpy(to + copied, &word, wordSize);
-    const auto found = BytesToHandle(word) & ((std::uint64_t{1} << (8 * left)) - 1);
-    return found == 0 ? size : copied + static_cast<std::size_t>(__builtin_ctzll(found)) / 8;
+    for (; copied < size && !NeedsHandling(from[copied]); ++copied)
+        to[copied] = from[copied];
+    return copied;
 }
 
 char* WriteEscape(char* to, unsigned char character) noexcept
@@ -103,6 +134,14 @@ char* WriteEscape(char* to, unsigned char character) noexcept
     }
 }
 
+// The usual case of most alphabets, told at once: U+0080 to U+07FF.
+bool IsTwoByteSequence(const char* text) noexcept
+{
+    const auto lead = static_cast<unsigned char>(text[0]);
+    const auto continuation = static_cast<unsigned char>(text[1]);
+    return lead >= 0xC2 && lead < 0xE0 && (continuation & 0xC0U) == 0x80U;
+}
+
 struct Utf8Sequence
 {
     std::size_t size;
@@ -111,7 +150,7 @@ struct Utf8Sequence
 
 // The UTF-8 sequence at the start of a text that begins with a non-ASCII byte; for an ill-formed one its maximal
 // subpart (The Unicode Standard, table 3-7 and section 3.9).
-Utf8Sequence FirstSequence(const char* text, std::size_t available) noexcept
+inline Utf8Sequence FirstSequence(const char* text, std::size_t available) noexcept
 {
     const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const auto isContinuation = [&](std::size_t i) { return i < available && (byte(i) & 0xC0U) == 0x80U; };
@@ -133,33 +172,29 @@ Utf8Sequence FirstSequence(const char* text, std::size_t available) noexcept
     return isContinuation(3) ? Utf8Sequence{4, true} : Utf8Sequence{3, false};
 }
 
-std::string_view NotNull(const char* text, const char* operation)
-{
-    if (text == nullptr)
-        throw std::invalid_argument(std::string("Stringer::") + operation + ": null pointer instead of a text");
-    return text;
-}
-
 } // namespace
 
 // -- TextBuffer
 
 Stringer::TextBuffer::TextBuffer(const TextBuffer& other)
 {
-    if (other.size_ != 0)
-        End(std::copy_n(other.data_.get(), other.size_, Reserve(other.size_)));
+    const auto text = other.Text();
+    if (!text.empty())
+        End(std::copy(text.begin(), text.end(), Reserve(text.size())));
 }
 
 Stringer::TextBuffer::TextBuffer(TextBuffer&& other) noexcept
-    : data_(std::move(other.data_)), size_(std::exchange(other.size_, 0)), capacity_(std::exchange(other.capacity_, 0))
+    : data_(std::move(other.data_)),
+      end_(std::exchange(other.end_, nullptr)),
+      limit_(std::exchange(other.limit_, nullptr))
 {
 }
 
 Stringer::TextBuffer& Stringer::TextBuffer::operator=(TextBuffer other) noexcept
 {
     data_.swap(other.data_);
-    std::swap(size_, other.size_);
-    std::swap(capacity_, other.capacity_);
+    std::swap(end_, other.end_);
+    std::swap(limit_, other.limit_);
     return *this;
 }
 
@@ -167,72 +202,98 @@ char* Stringer::TextBuffer::Grow(char* end, std::size_t room)
 {
     constexpr std::size_t firstCapacity = 1024; // holds a whole channel
     const auto composed = static_cast<std::size_t>(end - data_.get());
-    const auto capacity = std::max({firstCapacity, 2 * capacity_, composed + room});
+    const auto doubled = 2 * static_cast<std::size_t>(limit_ - data_.get());
+    const auto capacity = std::max({firstCapacity, doubled, composed + room});
+
     std::unique_ptr<char[]> data(new char[capacity]);
     if (composed != 0)
         std::memcpy(data.get(), data_.get(), composed);
+    end_ = data.get() + (end_ - data_.get());
+    limit_ = data.get() + capacity;
     data_ = std::move(data);
-    capacity_ = capacity;
     return data_.get() + composed;
 }
 
-char* Stringer::TextBuffer::Quote(char* end, std::string_view text)
+inline char* Stringer::TextBuffer::Quote(char* end, std::string_view text)
+{
+    constexpr std::size_t longText = 256; // not worth a first try that may be in vain
+    if (text.size() >= longText || !CopyPlain(end + 1, text.data(), text.size()))
+        return QuoteWithEscapes(end, text);
+    *end = '"';
+    end += text.size() + 1;
+    *end = '"';
+    return end + 1;
+}
+
+char* Stringer::TextBuffer::QuoteWithEscapes(char* end, std::string_view text)
 {
     // Invariant at each turn: there is room for the rest of the text, for `slack` bytes, and for an escape, the closing
-    // quote and the word that CopyPlain may write too far.
+    // quote and the word that CopyUpToEscape may write too far. Only escapes and replacements use it up.
     *end++ = '"';
     while (true)
     {
-        const auto plain = CopyPlain(end, text.data(), text.size());
+        const auto plain = CopyUpToEscape(end, text.data(), text.size());
         end += plain;
         text.remove_prefix(plain);
         if (text.empty())
             break;
 
-        if (const auto character = static_cast<unsigned char>(text.front()); character < 0x80)
+        if (!IsNonAscii(text.front()))
         {
-            end = WriteEscape(end, character);
+            end = WriteEscape(end, static_cast<unsigned char>(text.front()));
             text.remove_prefix(1);
+            end = Reserve(end, QuotedRoom(text));
+            continue;
         }
-        else
+        do
         {
-            do
+            if (text.size() >= 2 && IsTwoByteSequence(text.data()))
             {
-                const auto sequence = FirstSequence(text.data(), text.size());
-                if (!sequence.isWellFormed)
-                {
-                    std::memcpy(end, "\xEF\xBF\xBD", 3);
-                    text.remove_prefix(sequence.size);
-                    end = Reserve(end + 3, QuotedRoom(text));
-                    continue;
-                }
-                std::memcpy(end, text.data(), sequence.size);
+                std::memcpy(end, text.data(), 2);
+                end += 2;
+                text.remove_prefix(2);
+                continue;
+            }
+            const auto sequence = FirstSequence(text.data(), text.size());
+            if (sequence.isWellFormed)
+            {
+                std::copy_n(text.data(), sequence.size, end);
                 end += sequence.size;
                 text.remove_prefix(sequence.size);
-            } while (!text.empty() && static_cast<unsigned char>(text.front()) >= 0x80);
-        }
-        end = Reserve(end, QuotedRoom(text));
+            }
+            else
+            {
+                std::memcpy(end, "\xEF\xBF\xBD", 3);
+                text.remove_prefix(sequence.size);
+                end = Reserve(end + 3, QuotedRoom(text));
+            }
+        } while (!text.empty() && IsNonAscii(text.front()));
     }
     *end++ = '"';
     return end;
 }
 
-// -- LevelStack
+// -- OuterLevels
 
-void Stringer::LevelStack::Push(LevelState level)
+void Stringer::OuterLevels::Push(bool isObject)
 {
-    if (size_ < near_.size())
-        near_[size_] = level;
-    else
-        far_.push_back(level);
+    if (size_ != 0 && size_ % kindsPerWord == 0)
+        rest_.push_back(kinds_);
+    kinds_ = kinds_ << 1U | static_cast<std::uint64_t>(isObject);
     ++size_;
 }
 
-void Stringer::LevelStack::Pop() noexcept
+bool Stringer::OuterLevels::Pop() noexcept
 {
-    if (size_ > near_.size())
-        far_.pop_back();
+    const bool isObject = (kinds_ & 1U) != 0;
+    kinds_ >>= 1U;
     --size_;
+    if (size_ != 0 && size_ % kindsPerWord == 0)
+    {
+        kinds_ = rest_.back();
+        rest_.pop_back();
+    }
+    return isObject;
 }
 
 // -- Construction and output
@@ -245,7 +306,7 @@ Stringer::Stringer(std::unique_ptr<std::stringstream>&& stream) noexcept
 }
 
 Stringer::Stringer(const Stringer& other)
-    : pending_(other.pending_), states_(other.states_), prettyPrint_(other.prettyPrint_)
+    : pending_(other.pending_), level_(other.level_), states_(other.states_), prettyPrint_(other.prettyPrint_)
 {
     if (other.stream_ == nullptr)
         return;
@@ -271,7 +332,8 @@ Stringer& Stringer::operator=(Stringer&& other) noexcept
         return *this;
     stream_ = std::move(other.stream_);
     pending_ = std::move(other.pending_);
-    states_ = std::exchange(other.states_, LevelStack());
+    level_ = std::exchange(other.level_, LevelState());
+    states_ = std::exchange(other.states_, OuterLevels());
     prettyPrint_ = other.prettyPrint_;
     writesThrough_ = std::exchange(other.writesThrough_, false);
     return *this;
@@ -296,7 +358,8 @@ std::string Stringer::ToString() const
 std::unique_ptr<std::stringstream> Stringer::TakeStream()
 {
     WriteThrough();
-    states_ = LevelStack();
+    level_ = LevelState();
+    states_ = OuterLevels();
     writesThrough_ = false;
     return std::move(stream_);
 }
@@ -318,42 +381,54 @@ void Stringer::WriteThrough()
 
 // -- Checks
 
-void Stringer::ThrowIfInvalidState(const char* operation, bool writesKey) const
+namespace
 {
-    const char* state = nullptr;
-    if (states_.Empty())
-        state = writesKey ? "no object is open" : nullptr;
-    else if (const auto& level = CurrentLevelState(); !level.isObject)
-        state = writesKey ? "the innermost open level is an array" : nullptr;
-    else if (level.needsValue == writesKey)
-        state = writesKey ? "the last key awaits its value" : "the open object awaits a key";
 
-    if (state != nullptr)
-        throw InvalidStringerState(std::string("Stringer::") + operation + ": " + state);
+[[noreturn]] void ThrowState(const char* operation, const char* state)
+{
+    throw InvalidStringerState(std::string("Stringer::") + operation + ": " + state);
+}
+
+} // namespace
+
+void Stringer::ThrowNullPointer(const char* operation)
+{
+    throw std::invalid_argument(std::string("Stringer::") + operation + ": null pointer instead of a text");
+}
+
+inline void Stringer::ThrowIfInvalidState(const char* operation) const
+{
+    if (CurrentLevelState().isObject && !CurrentLevelState().needsValue)
+        ThrowState(operation, "the open object awaits a key");
+}
+
+inline void Stringer::ThrowIfKeyIsInvalid() const
+{
+    const auto& level = CurrentLevelState();
+    if (!level.isObject)
+        ThrowState("Key", Depth() == 0 ? "no object is open" : "the innermost open level is an array");
+    if (level.needsValue)
+        ThrowState("Key", "the last key awaits its value");
 }
 
 void Stringer::ThrowIfInconsistent(const char* operation, bool closesObject) const
 {
-    const char* state = nullptr;
-    if (states_.Empty())
-        state = "nothing is open";
-    else if (const auto& level = CurrentLevelState(); level.isObject != closesObject)
-        state = closesObject ? "the innermost open level is an array" : "the innermost open level is an object";
-    else if (level.needsValue)
-        state = "the last key awaits its value";
-
-    if (state != nullptr)
-        throw InvalidStringerState(std::string("Stringer::") + operation + ": " + state);
+    const auto& level = CurrentLevelState();
+    if (Depth() == 0)
+        ThrowState(operation, "nothing is open");
+    if (level.isObject != closesObject)
+        ThrowState(operation,
+                   closesObject ? "the innermost open level is an array" : "the innermost open level is an object");
+    if (level.needsValue)
+        ThrowState(operation, "the last key awaits its value");
 }
 
 // -- Items: composed behind the pending text, which they join only when they are complete
 
 char* Stringer::NewLine(char* end, std::size_t levels) const noexcept
 {
-    if (!prettyPrint_)
-        return end;
-    *end++ = '\n';
-    return Indent(end, levels);
+    *end = '\n';
+    return Indent(end + 1, levels);
 }
 
 char* Stringer::Indent(char* end, std::size_t levels) noexcept
@@ -363,26 +438,22 @@ char* Stringer::Indent(char* end, std::size_t levels) noexcept
 }
 
 // Makes room for `room` bytes and writes what stands before an item: nothing at the top level and after a key.
-char* Stringer::BeginItem(std::size_t room)
+inline char* Stringer::BeginItem(std::size_t room)
 {
-    const auto layout = prettyPrint_ ? 2 + 2 * states_.Size() : 1;
-    auto* end = pending_.Reserve(room + layout);
-    if (states_.Empty() || CurrentLevelState().needsValue)
+    auto* end = pending_.Reserve(room + (prettyPrint_ ? 2 + 2 * Depth() : 1));
+    const auto& level = CurrentLevelState();
+    if (level.needsValue)
         return end;
-    if (!CurrentLevelState().empty)
-        *end++ = ',';
-    return NewLine(end, states_.Size());
+    *end = ','; // overwritten by the item when there is none before it
+    end += level.empty ? 0 : 1;
+    return prettyPrint_ && Depth() != 0 ? NewLine(end, Depth()) : end;
 }
 
-void Stringer::EndItem(const char* end, bool needsValue)
+inline void Stringer::EndItem(char* end, bool needsValue)
 {
     pending_.End(end);
-    if (!states_.Empty())
-    {
-        auto& level = states_.Top();
-        level.empty = false;
-        level.needsValue = needsValue;
-    }
+    level_.empty = Depth() == 0;
+    level_.needsValue = needsValue;
     if (writesThrough_)
         WriteThrough();
 }
@@ -392,7 +463,8 @@ Stringer& Stringer::Open(const char* operation, bool isObject)
     ThrowIfInvalidState(operation);
     auto* end = BeginItem(1);
     *end++ = isObject ? '{' : '[';
-    states_.Push(LevelState(true, isObject, false));
+    states_.Push(level_.isObject);
+    level_ = LevelState(true, isObject, false);
     pending_.End(end);
     if (writesThrough_)
         WriteThrough();
@@ -402,11 +474,11 @@ Stringer& Stringer::Open(const char* operation, bool isObject)
 Stringer& Stringer::Close(const char* operation, bool isObject)
 {
     ThrowIfInconsistent(operation, isObject);
-    auto* end = pending_.Reserve(2 + 2 * states_.Size());
-    if (!CurrentLevelState().empty)
-        end = NewLine(end, states_.Size() - 1);
+    auto* end = pending_.Reserve(2 + 2 * Depth());
+    if (prettyPrint_ && !level_.empty)
+        end = NewLine(end, Depth() - 1);
     *end++ = isObject ? '}' : ']';
-    states_.Pop();
+    level_.isObject = states_.Pop();
     EndItem(end, false); // the closed level is an item of the one around it
     return *this;
 }
@@ -436,14 +508,9 @@ Stringer& Stringer::CloseArray()
     return Close("CloseArray", false);
 }
 
-Stringer& Stringer::Key(const char* key)
-{
-    return Key(NotNull(key, "Key"));
-}
-
 Stringer& Stringer::Key(std::string_view key)
 {
-    ThrowIfInvalidState("Key", true);
+    ThrowIfKeyIsInvalid();
     auto* end = pending_.Quote(BeginItem(TextBuffer::QuotedRoom(key)), key);
     *end++ = ':';
     if (prettyPrint_)
@@ -475,11 +542,6 @@ Stringer& Stringer::Value(double value)
     auto* end = BeginItem(longest);
     EndItem(std::to_chars(end, end + longest, value).ptr, false);
     return *this;
-}
-
-Stringer& Stringer::Value(const char* value)
-{
-    return Value(NotNull(value, "Value"));
 }
 
 Stringer& Stringer::Value(std::string_view value)

@@ -2,7 +2,6 @@
 
 #include <Qiv/Common/Serialization/Export.h>
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -125,7 +124,7 @@ public:
     Stringer& CloseArray();
 
     /// Writes a member name; exactly one value must follow.
-    Stringer& Key(const char* key);
+    Stringer& Key(const char* key) { return Key(NotNull(key, "Key")); }
     Stringer& Key(const std::string& key) { return Key(std::string_view(key)); }
     Stringer& Key(std::string_view key);
 
@@ -133,7 +132,7 @@ public:
     Stringer& Value(std::int32_t value);
     /// The shortest form that reads back to the same number. NaN and infinities throw `std::invalid_argument`.
     Stringer& Value(double value);
-    Stringer& Value(const char* value);
+    Stringer& Value(const char* value) { return Value(NotNull(value, "Value")); }
     Stringer& Value(const std::string& value) { return Value(std::string_view(value)); }
     Stringer& Value(std::string_view value);
     Stringer& NullValue();
@@ -158,13 +157,13 @@ private:
         TextBuffer(TextBuffer&& other) noexcept;
         TextBuffer& operator=(TextBuffer other) noexcept;
 
-        std::string_view Text() const noexcept { return {data_.get(), size_}; }
+        std::string_view Text() const noexcept { return {data_.get(), static_cast<std::size_t>(end_ - data_.get())}; }
 
-        char* Reserve(std::size_t room) { return Reserve(data_.get() + size_, room); }
+        char* Reserve(std::size_t room) { return Reserve(end_, room); }
         /// Makes room for `room` bytes behind `end` and keeps what is composed before it.
         char* Reserve(char* end, std::size_t room)
         {
-            return static_cast<std::size_t>(data_.get() + capacity_ - end) >= room ? end : Grow(end, room);
+            return static_cast<std::size_t>(limit_ - end) >= room ? end : Grow(end, room);
         }
         /// Writes `text` escaped and in quotes at `end`, where there must be room for `QuotedRoom(text)` bytes.
         /// Leaves room for `slack` bytes behind the end that it returns.
@@ -172,42 +171,52 @@ private:
         static constexpr std::size_t slack = 16;
         static std::size_t QuotedRoom(std::string_view text) noexcept { return text.size() + 2 * slack; }
 
-        void End(const char* end) noexcept { size_ = static_cast<std::size_t>(end - data_.get()); }
-        void Clear() noexcept { size_ = 0; }
+        void End(char* end) noexcept { end_ = end; }
+        void Clear() noexcept { end_ = data_.get(); }
 
     private:
         char* Grow(char* end, std::size_t room);
+        char* QuoteWithEscapes(char* end, std::string_view text);
 
         std::unique_ptr<char[]> data_;
-        std::size_t size_ = 0;
-        std::size_t capacity_ = 0;
+        char* end_ = nullptr;
+        char* limit_ = nullptr;
     };
 
-    /// The open levels. Only those beyond the usual depth need memory.
-    class LevelStack
+    /// The levels around the innermost one. Of each only its kind needs to be kept: it is not empty, and when the
+    /// level inside it is closed, it awaits no value.
+    class OuterLevels
     {
     public:
-        bool Empty() const noexcept { return size_ == 0; }
         std::size_t Size() const noexcept { return size_; }
-        LevelState& Top() noexcept { return size_ <= near_.size() ? near_[size_ - 1] : far_.back(); }
-        const LevelState& Top() const noexcept { return size_ <= near_.size() ? near_[size_ - 1] : far_.back(); }
-        void Push(LevelState level);
-        void Pop() noexcept;
+        void Push(bool isObject);
+        bool Pop() noexcept;
 
     private:
-        std::array<LevelState, 16> near_;
-        std::vector<LevelState> far_;
+        static constexpr std::size_t kindsPerWord = 64;
+
+        std::uint64_t kinds_ = 0;         // of the innermost levels: one bit each, the lowest for the innermost
+        std::vector<std::uint64_t> rest_; // of those that have no place there, so almost always empty
         std::size_t size_ = 0;
     };
 
-    void ThrowIfInvalidState(const char* operation, bool writesKey = false) const;
+    static std::string_view NotNull(const char* text, const char* operation)
+    {
+        if (text == nullptr)
+            ThrowNullPointer(operation);
+        return text;
+    }
+    [[noreturn]] static void ThrowNullPointer(const char* operation);
+    void ThrowIfInvalidState(const char* operation) const;
+    void ThrowIfKeyIsInvalid() const;
     void ThrowIfInconsistent(const char* operation, bool closesObject) const;
-    const LevelState& CurrentLevelState() const noexcept { return states_.Top(); }
+    const LevelState& CurrentLevelState() const noexcept { return level_; }
+    std::size_t Depth() const noexcept { return states_.Size(); }
 
     char* NewLine(char* end, std::size_t levels) const noexcept;
     static char* Indent(char* end, std::size_t levels) noexcept;
     char* BeginItem(std::size_t room);
-    void EndItem(const char* end, bool needsValue);
+    void EndItem(char* end, bool needsValue);
     void WriteThrough();
     Stringer& Open(const char* operation, bool isObject);
     Stringer& Close(const char* operation, bool isObject);
@@ -215,7 +224,8 @@ private:
 
     std::unique_ptr<std::stringstream> stream_; // made when it is first asked for
     TextBuffer pending_;                        // text that the stream has not received yet
-    LevelStack states_;
+    LevelState level_;                          // the innermost level; at the top level an array that stays empty
+    OuterLevels states_;
     bool prettyPrint_ = false;
     bool writesThrough_ = false; // somebody else may look at the stream, so nothing may stay pending
 };
