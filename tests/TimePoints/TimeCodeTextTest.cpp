@@ -4,9 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <random>
 #include <regex>
+#include <sstream>
 #include <stdexcept>
+#include <vector>
 
 namespace Qiv::TimePoints
 {
@@ -63,20 +66,9 @@ TEST(QivTimeCodeParser, AgreesWithTheRegularExpressionsOnGeneratedAndMutatedText
     std::mt19937 random(25);
     const auto below = [&](std::size_t end) { return random() % end; };
     const auto two = [&](std::size_t end) { return std::to_string(100 + below(end)).substr(1); };
-    const std::string rates[] = {"25",
-                                 "30",
-                                 "60",
-                                 "30",
-                                 "60",
-                                 "0",
-                                 "1",
-                                 "120",
-                                 "00000000000025",
-                                 "2147483647",
-                                 "2147483648",
-                                 "4294967321",
-                                 "99999999999999999999",
-                                 ""};
+    std::istringstream words("25 30 60 30 60 0 1 120 00000000000025 2147483647 2147483648 4294967321 "
+                             "99999999999999999999 x");
+    const std::vector<std::string> rates(std::istream_iterator<std::string>(words), {});
     const std::string replacements("0123456789:;-T@ +./x\n\0\xB0\xFF", 24);
     const QivTimeCodeParser parser;
     int valid = 0;
@@ -86,25 +78,20 @@ TEST(QivTimeCodeParser, AgreesWithTheRegularExpressionsOnGeneratedAndMutatedText
         if (below(3) != 0)
             text = std::to_string(1890 + below(380)) + "-" + two(14) + "-" + two(34) + "T";
         text += two(26) + ":" + two(61) + ":" + two(below(2) == 0 ? 1 : 61) + (below(2) == 0 ? ":" : ";");
-        text += two(below(2) == 0 ? 5 : 62) + "@" + rates[below(std::size(rates))];
+        text += two(below(2) == 0 ? 5 : 62) + "@" + rates[below(rates.size())];
         for (std::size_t mutations = below(3); mutations > 0; --mutations)
         {
             const std::size_t position = below(text.size());
             const char character = replacements[below(replacements.size())];
-            switch (below(6))
-            {
-            case 0:
+            const std::size_t kind = below(6);
+            if (kind == 0)
                 text.insert(position, 1, character);
-                break;
-            case 1:
+            else if (kind == 1)
                 text.erase(position, 1);
-                break;
-            case 2:
+            else if (kind == 2)
                 text.resize(position + 1);
-                break;
-            default:
+            else
                 text[position] = character;
-            }
         }
         const std::string expected = OutcomeOf([&] { return ReadByExpression(text); });
         ASSERT_EQ(Outcome(text), expected) << text;
@@ -177,8 +164,9 @@ TEST(QivTimeCodeParser, ReadsVeryLongTextsAndRatesBeyondTheRange)
     EXPECT_EQ(Outcome("00:00:00:00@1" + million + "x").substr(0, 16), "invalid argument");
     EXPECT_EQ(Outcome(million).substr(0, 16), "invalid argument");
     // Modulo 2^64.
+    const auto seconds = static_cast<std::uint64_t>(TimeCode::DateToDays(2261, 12, 31) * 86400 + 86399);
     EXPECT_EQ(TimeCode::Parse("2261-12-31T23:59:59:00@2147483647", QivTimeCodeParser()).TotalSample(),
-              static_cast<std::int64_t>((TimeCode::DateToDays(2261, 12, 31) * 86400U + 86399U) * 2147483647U));
+              static_cast<std::int64_t>(seconds * 2147483647));
 }
 
 } // namespace
