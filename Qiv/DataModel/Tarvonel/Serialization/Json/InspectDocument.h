@@ -1,0 +1,42 @@
+#pragma once
+
+#include <Qiv/Common/Serialization/Json/JsonObject.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Export.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/DocumentKind.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Finding.h>
+
+#include <vector>
+
+namespace Qiv::DataModel::Tarvonel::Serialization::Json
+{
+
+/// Tells what the readers would pass over silently in a document, what makes them fail, and what ends the process.
+///
+/// The kind of the document is what its "_type" names; one that names no kind is judged as the reader of channels of
+/// either kind does. Channels are judged as by `JsonToMediaIOConverter`, for which "_type" is required.
+///
+/// The findings stand in the order in which the reader takes the members, so the reader fails with the text of the
+/// first `Failure` (see FirstFailure) and succeeds when there is none, provided that nothing ends the process. What
+/// the reader would not reach after that failure is inspected all the same: a document is called fatal also when a
+/// failure would keep the reader from the fatal member. What the writers write has no findings.
+///
+/// Members with a `WrongType`, `UnknownMember` or `Ignored` may be removed without any effect on the entity, as long
+/// as the document has no failure and the object around them does not become empty, which readers refuse.
+///
+/// Throws nothing but std::bad_alloc. The depth of the document does not matter: unknown members are not descended
+/// into.
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT std::vector<Finding>
+InspectDocument(const Common::Serialization::Json::JsonObject& document);
+
+/// The same for a caller who knows what the document should be: judged as by the reader of that kind, with the given
+/// channel kind as target. "_type" is optional where the reader says so, and another one is a failure.
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT std::vector<Finding>
+InspectDocument(const Common::Serialization::Json::JsonObject& document, DocumentKind kind);
+
+/// The finding whose text the reader would fail with; null when there is none.
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT const Finding* FirstFailure(const std::vector<Finding>& findings) noexcept;
+
+/// The first finding that ends the process; null when there is none, and the document is safe to read.
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT const Finding* FirstFatal(const std::vector<Finding>& findings) noexcept;
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::Json

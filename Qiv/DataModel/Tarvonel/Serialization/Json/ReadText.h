@@ -1,0 +1,61 @@
+#pragma once
+
+#include <Qiv/Common/Serialization/Json/JsonObject.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/Boundary.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaIO.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/SequenceOutput.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/Speed.h>
+#include <Qiv/DataModel/Tarvonel/Nodes/Node.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Export.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/TextResult.h>
+
+#include <memory>
+#include <string_view>
+
+/// For callers who have text: parsed strictly, refused when it would end the process, and read whole or not at all.
+///
+///     MediaIOs::MediaOutput channel;
+///     if (const auto result = MergeText(text, channel); !result)
+///         std::cerr << result.Position().line << ": " << result.ErrorMessage() << '\n';
+///
+/// Failures: the text is no JSON; the document would end the process ("...: ends the process (...)"); or the text of
+/// the reader's own failure, unchanged. Each comes with its place, and the target is as it was. What can be thrown is
+/// what the readers throw whatever the document, see WholeReading.h.
+namespace Qiv::DataModel::Tarvonel::Serialization::Json
+{
+
+/// How many objects and arrays may stand inside each other.
+constexpr int maximumTextDepth = 100;
+
+/// Parses one JSON document, an object or an array, into `json`.
+///
+/// Strict: no byte order mark, no comments, no control characters in strings, no key twice in an object, nothing but
+/// white space after the document, at most `maximumTextDepth` levels; the document itself counts as one. Text that is
+/// not well-formed UTF-8 is let through, as the readers do. After a failure `json` is null.
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ParseText(std::string_view text,
+                                                                 Common::Serialization::Json::JsonObject& json);
+
+/// Parses a document and merges it into the entity: see `MergeWhole`.
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult MergeText(std::string_view text,
+                                                                 Tarvonel::MediaIOs::MediaIO& channel);
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult MergeText(std::string_view text,
+                                                                 Tarvonel::MediaIOs::SequenceOutput& sequenceOutput);
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult MergeText(std::string_view text,
+                                                                 Tarvonel::MediaIOs::Speed& speed);
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult MergeText(std::string_view text, Tarvonel::Nodes::Node& node);
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult
+MergeText(std::string_view text, std::unique_ptr<Tarvonel::MediaIOs::Boundary>& boundary);
+
+/// Parses a document and replaces the entity by it: see `ReadSnapshot`.
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ReadSnapshotText(std::string_view text,
+                                                                        Tarvonel::MediaIOs::MediaIO& channel);
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult
+ReadSnapshotText(std::string_view text, Tarvonel::MediaIOs::SequenceOutput& sequenceOutput);
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ReadSnapshotText(std::string_view text,
+                                                                        Tarvonel::MediaIOs::Speed& speed);
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ReadSnapshotText(std::string_view text,
+                                                                        Tarvonel::Nodes::Node& node);
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult
+ReadSnapshotText(std::string_view text, std::unique_ptr<Tarvonel::MediaIOs::Boundary>& boundary);
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::Json

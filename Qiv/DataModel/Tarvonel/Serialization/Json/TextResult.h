@@ -1,0 +1,39 @@
+#pragma once
+
+#include <Qiv/DataModel/Tarvonel/Serialization/Export.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/TextPosition.h>
+
+#include <string>
+#include <utility>
+
+namespace Qiv::DataModel::Tarvonel::Serialization::Json
+{
+
+/// What reading a text reports: success, or a failure with its English text and its place.
+class QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult
+{
+public:
+    /// A success.
+    TextResult() = default;
+
+    TextResult(std::string errorMessage, const TextPosition& position, std::string pointer = {})
+        : success_(false), errorMessage_(std::move(errorMessage)), position_(position), pointer_(std::move(pointer))
+    {
+    }
+
+    explicit operator bool() const noexcept { return success_; }
+
+    /// Empty on success.
+    const std::string& ErrorMessage() const noexcept { return errorMessage_; }
+    const TextPosition& Position() const noexcept { return position_; }
+    /// The value that the failure is about, as an RFC 6901 pointer; empty when the text is no JSON.
+    const std::string& Pointer() const noexcept { return pointer_; }
+
+private:
+    bool success_ = true;
+    std::string errorMessage_;
+    TextPosition position_;
+    std::string pointer_;
+};
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::Json
