@@ -1,0 +1,425 @@
+#include <Qiv/Common/Serialization/Json/InvalidStringerState.h>
+#include <Qiv/Common/Serialization/Json/Stringer.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <functional>
+#include <limits>
+#include <locale>
+#include <memory>
+#include <random>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace Qiv::Common::Serialization::Json
+{
+namespace
+{
+
+static_assert(std::is_copy_constructible_v<Stringer> && std::is_copy_assignable_v<Stringer>);
+static_assert(std::is_nothrow_move_constructible_v<Stringer> && std::is_nothrow_move_assignable_v<Stringer>);
+
+std::string Quoted(std::string_view text)
+{
+    return Stringer().Value(text).ToString();
+}
+
+/// The JSON string of a text, told slowly from the table of well-formed UTF-8 sequences.
+std::string Oracle(std::string_view text)
+{
+    using Range = std::pair<unsigned, unsigned>;
+    constexpr Range any{0x80, 0xBF};
+    static const std::vector<Range> sequences[] = {
+        {{0xC2, 0xDF}, any},           {{0xE0, 0xE0}, {0xA0, 0xBF}, any},
+        {{0xE1, 0xEC}, any, any},      {{0xED, 0xED}, {0x80, 0x9F}, any},
+        {{0xEE, 0xEF}, any, any},      {{0xF0, 0xF0}, {0x90, 0xBF}, any, any},
+        {{0xF1, 0xF3}, any, any, any}, {{0xF4, 0xF4}, {0x80, 0x8F}, any, any},
+    };
+    std::string json = "\"";
+    for (std::size_t i = 0; i < text.size();)
+    {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if (const auto* const letter = std::strchr("\"\"\\\\\bb\ff\nn\rr\tt", byte);
+            byte != 0 && letter != nullptr &&
+            std::string_view("\"\\\b\f\n\r\t").find(text[i]) != std::string_view::npos)
+        {
+            json += std::string("\\") + letter[1];
+            ++i;
+        }
+        else if (byte < 0x80)
+        {
+            char escape[8];
+            std::snprintf(escape, sizeof escape, "\\u%04x", byte);
+            json += byte < 0x20 ? std::string(escape) : std::string(1, text[i]);
+            ++i;
+        }
+        else
+        {
+            std::size_t longest = 1;
+            bool isWellFormed = false;
+            for (const auto& sequence : sequences)
+            {
+                std::size_t matched = 0;
+                while (matched < sequence.size() && i + matched < text.size() &&
+                       static_cast<unsigned char>(text[i + matched]) >= sequence[matched].first &&
+                       static_cast<unsigned char>(text[i + matched]) <= sequence[matched].second)
+                    ++matched;
+                longest = std::max(longest, matched);
+                isWellFormed = isWellFormed || matched == sequence.size();
+            }
+            json += isWellFormed ? std::string(text.substr(i, longest)) : "\xEF\xBF\xBD";
+            i += longest;
+        }
+    }
+    return json + "\"";
+}
+
+// The borders of what is escaped and of the ranges of UTF-8.
+constexpr unsigned char border[] = {0x00, 0x08, 0x09, 0x0A, 0x0B, 0x0C, 0x0D, 0x1F, 0x20, '"',  '/',  'a',
+                                    '\\', 0x7F, 0x80, 0x8F, 0x90, 0x9F, 0xA0, 0xBF, 0xC0, 0xC1, 0xC2, 0xDF,
+                                    0xE0, 0xE1, 0xEC, 0xED, 0xEE, 0xEF, 0xF0, 0xF1, 0xF3, 0xF4, 0xF5, 0xFF};
+
+TEST(Stringer, EscapesEveryTextAsTheTableOfUtf8Says)
+{
+    EXPECT_EQ(Quoted(std::string_view("\"\\/\b\f\n\r\t\0\x1f\x7f", 11)), R"("\"\\/\b\f\n\r\t\u0000\u001f)"
+                                                                         "\x7f\"");
+    EXPECT_EQ(Quoted("\xC3\xA9\xF0\x9F\x8E\xA5"), "\"\xC3\xA9\xF0\x9F\x8E\xA5\"");
+    EXPECT_EQ(Quoted("\xE2\x82 \xC0\xAF\xED\xA0\x80"), "\"\xEF\xBF\xBD \xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"
+                                                       "\xEF\xBF\xBD\"");
+    // Exactly sized buffers, so that a sanitizer sees what is read behind them.
+    const auto check = [](const std::vector<char>& text)
+    {
+        const std::string_view view(text.data(), text.size());
+        ASSERT_EQ(Quoted(view), Oracle(view));
+    };
+    for (std::size_t size = 0; size <= 40; ++size)
+    {
+        check(std::vector<char>(size, 'x'));
+        for (std::size_t position = 0; position < size; ++position)
+        {
+            for (const auto byte : border)
+            {
+                std::vector<char> text(size, 'x');
+                text[position] = static_cast<char>(byte);
+                check(text);
+            }
+        }
+    }
+    std::mt19937 random(1);
+    for (int i = 0; i < 40000; ++i)
+    {
+        std::vector<char> text(random() % 24 + (i % 400 == 0 ? 250 : 0));
+        for (auto& character : text)
+            character = static_cast<char>(random() % 8 == 0 ? 'x' : border[random() % std::size(border)]);
+        check(text);
+    }
+}
+
+TEST(Stringer, WritesLongTexts)
+{
+    std::string plain(1 << 20, 'x');
+    EXPECT_EQ(Quoted(plain).size(), plain.size() + 2);
+    for (const auto* const piece : {"\x01", "\xFF", "\xC3\xA9", "12345678\"", "\xF0\x9F\x8E\xA5\n"})
+    {
+        std::string text;
+        while (text.size() < 1 << 20)
+            text += piece;
+        Stringer json;
+        json.Object().Key(text).Value(text).CloseObject();
+        const auto quoted = Oracle(text);
+        EXPECT_TRUE(json.ToString() == "{" + quoted + ":" + quoted + "}") << piece;
+        EXPECT_TRUE(Stringer::ToEscapedString(text.c_str()) == quoted) << piece;
+    }
+}
+
+void WriteSample(Stringer& json)
+{
+    json.Object().Key("a").Value(true).Key(std::string("b\0", 2)).Array();
+    json.Value(INT32_MIN)
+        .Value(std::int32_t{0})
+        .Value(false)
+        .NullValue()
+        .Value(0.5)
+        .Value("c\0d")
+        .Object()
+        .CloseObject();
+    json.Array().CloseArray().CloseArray().Key("").Object().Key("e").Value(std::string("\0", 1)).CloseObject();
+    json.CloseObject();
+}
+
+const char* const compactSample = R"({"a":true,"b\u0000":[-2147483648,0,false,null,0.5,"c",{},[]],"":{"e":"\u0000"}})";
+const char* const prettySample = R"({
+  "a": true,
+  "b\u0000": [
+    -2147483648,
+    0,
+    false,
+    null,
+    0.5,
+    "c",
+    {},
+    []
+  ],
+  "": {
+    "e": "\u0000"
+  }
+})";
+
+TEST(Stringer, WritesCompactAndPretty)
+{
+    Stringer compact;
+    WriteSample(compact);
+    EXPECT_EQ(compact.ToString(), compactSample);
+    auto pretty = Stringer::PrettyStringer();
+    WriteSample(pretty);
+    EXPECT_EQ(pretty.ToString(), prettySample);
+
+    // Texts of their own follow each other at the top level.
+    EXPECT_EQ(Stringer().Object().CloseObject().Value(1).Array().CloseArray().ToString(), "{}1[]");
+    EXPECT_EQ(Stringer().ToString(), "");
+}
+
+TEST(Stringer, WritesTheShortestNumberThatReadsBack)
+{
+    const std::pair<double, const char*> rows[] = {{0.0, "0"},
+                                                   {-0.0, "-0"},
+                                                   {0.1, "0.1"},
+                                                   {1234.5, "1234.5"},
+                                                   {1e21, "1e+21"},
+                                                   {5e-324, "5e-324"},
+                                                   {-2.2250738585072014e-308, "-2.2250738585072014e-308"},
+                                                   {std::numeric_limits<double>::max(), "1.7976931348623157e+308"}};
+    for (const auto& [number, text] : rows)
+        EXPECT_EQ(Stringer().Value(number).ToString(), text);
+    std::mt19937_64 random(1);
+    for (int i = 0; i < 10000; ++i)
+    {
+        const auto bits = random();
+        double number = 0;
+        std::memcpy(&number, &bits, sizeof number);
+        if (!std::isfinite(number))
+            continue;
+        ASSERT_EQ(std::strtod(Stringer().Value(number).ToString().c_str(), nullptr), number);
+    }
+    for (const auto number : {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+                              std::numeric_limits<double>::quiet_NaN()})
+    {
+        Stringer json;
+        json.Array();
+        EXPECT_THROW(json.Value(number), std::invalid_argument);
+        EXPECT_EQ(json.Value(1).CloseArray().ToString(), "[1]");
+    }
+}
+
+TEST(Stringer, RefusesMisuseAndWritesNothing)
+{
+    using Operation = std::function<void(Stringer&)>;
+    const std::pair<const char*, Operation> states[] = {
+        {"", [](Stringer&) {}},
+        {"{", [](Stringer& json) { json.Object(); }},
+        {"{\"k\":", [](Stringer& json) { json.Object().Key("k"); }},
+        {"[", [](Stringer& json) { json.Array(); }},
+    };
+    const char* const awaitsKey = "the open object awaits a key";
+    const char* const awaitsValue = "the last key awaits its value";
+    const char* const inArray = "the innermost open level is an array";
+    const char* const inObject = "the innermost open level is an object";
+    const struct
+    {
+        const char* name;
+        Operation run;
+        const char* refusals[4]; // in each state
+    } rows[] = {
+        {"Key", [](Stringer& json) { json.Key("x"); }, {"no object is open", nullptr, awaitsValue, inArray}},
+        {"CloseObject", [](Stringer& json) { json.CloseObject(); }, {"nothing is open", nullptr, awaitsValue, inArray}},
+        {"CloseArray", [](Stringer& json) { json.CloseArray(); }, {"nothing is open", inObject, inObject, nullptr}},
+        {"Object", [](Stringer& json) { json.Object(); }, {nullptr, awaitsKey, nullptr, nullptr}},
+        {"Array", [](Stringer& json) { json.Array(); }, {nullptr, awaitsKey, nullptr, nullptr}},
+        {"Value", [](Stringer& json) { json.Value("x"); }, {nullptr, awaitsKey, nullptr, nullptr}},
+        {"Value", [](Stringer& json) { json.Value(true); }, {nullptr, awaitsKey, nullptr, nullptr}},
+        {"Value", [](Stringer& json) { json.Value(1); }, {nullptr, awaitsKey, nullptr, nullptr}},
+        {"Value", [](Stringer& json) { json.Value(1.5); }, {nullptr, awaitsKey, nullptr, nullptr}},
+        {"NullValue", [](Stringer& json) { json.NullValue(); }, {nullptr, awaitsKey, nullptr, nullptr}},
+    };
+    for (const auto& row : rows)
+    {
+        for (std::size_t i = 0; i < std::size(states); ++i)
+        {
+            Stringer json;
+            states[i].second(json);
+            std::string refusal;
+            try
+            {
+                row.run(json);
+            }
+            catch (const InvalidStringerState& error)
+            {
+                refusal = error.what();
+                EXPECT_EQ(json.ToString(), states[i].first) << refusal;
+            }
+            const auto* const expected = row.refusals[i];
+            EXPECT_EQ(refusal, expected ? std::string("Stringer::") + row.name + ": " + expected : "")
+                << row.name << " after " << states[i].first;
+        }
+    }
+    static_assert(std::is_base_of_v<std::logic_error, InvalidStringerState>);
+
+    const char* const null = nullptr;
+    Stringer json;
+    EXPECT_THROW(json.Object().Key(null), std::invalid_argument);
+    EXPECT_THROW(json.Key("k").Value(null), std::invalid_argument);
+    EXPECT_THROW(Stringer::ToEscapedString(null), std::invalid_argument);
+    EXPECT_EQ(json.Value("v").CloseObject().ToString(), R"({"k":"v"})");
+}
+
+TEST(Stringer, NestsDeeply)
+{
+    constexpr int depth = 10000;
+    std::mt19937 random(1);
+    Stringer json;
+    std::string opened;
+    std::string closed;
+    for (int i = 0; i < depth; ++i)
+    {
+        const bool isObject = random() % 2 == 0;
+        isObject ? json.Object().Key("k") : json.Array();
+        opened += isObject ? "{\"k\":" : "[";
+        closed.insert(closed.begin(), isObject ? '}' : ']');
+    }
+    json.NullValue();
+    auto copy = json;
+    for (const auto bracket : closed)
+    {
+        EXPECT_THROW(bracket == '}' ? copy.CloseArray() : copy.CloseObject(), InvalidStringerState);
+        bracket == '}' ? copy.CloseObject() : copy.CloseArray();
+    }
+    EXPECT_EQ(copy.ToString(), opened + "null" + closed);
+    EXPECT_EQ(json.ToString(), opened + "null");
+    EXPECT_THROW(copy.CloseObject(), InvalidStringerState);
+}
+
+TEST(Stringer, SharesItsStreamOnlyWhenAsked)
+{
+    auto given = std::make_unique<std::stringstream>();
+    auto& seen = *given;
+    seen << "before ";
+    Stringer json(std::move(given));
+    json.Array().Value("a");
+    EXPECT_EQ(seen.str(), "before [\"a\"");
+    EXPECT_EQ(&json.Stream(), &seen);
+    EXPECT_EQ(json.ToString(), "before [\"a\"");
+    auto taken = json.CloseArray().TakeStream();
+    EXPECT_EQ(taken->str(), "before [\"a\"]");
+    EXPECT_EQ(json.ToString(), "");
+    EXPECT_EQ(json.Object().CloseObject().ToString(), "{}"); // as a new one, also in its levels
+    EXPECT_EQ(taken->str(), "before [\"a\"]");
+
+    Stringer own;
+    own.Array().Value(1);
+    auto& stream = own.Stream();
+    EXPECT_EQ(stream.str(), "[1");
+    own.Value(2);
+    EXPECT_EQ(stream.str(), "[1,2");
+    stream << " ";
+    EXPECT_EQ(own.CloseArray().ToString(), "[1,2 ]");
+    EXPECT_EQ(Stringer(std::unique_ptr<std::stringstream>()).Value(1).TakeStream()->str(), "1");
+}
+
+TEST(Stringer, CopiesDeeplyAndMoves)
+{
+    for (const bool onAStream : {false, true})
+    {
+        Stringer original = Stringer::PrettyStringer();
+        if (onAStream)
+            original.Stream();
+        original.Object().Key("k");
+        auto copy = original;
+        EXPECT_EQ(copy.Value(1).Key("l").Value(2).CloseObject().ToString(), "{\n  \"k\": 1,\n  \"l\": 2\n}");
+        EXPECT_EQ(copy.Stream().str(), copy.ToString());
+        EXPECT_EQ(original.ToString(), "{\n  \"k\": ");
+        copy = original;
+        copy = *&copy;
+        EXPECT_EQ(copy.Array().CloseArray().ToString(), "{\n  \"k\": []");
+
+        Stringer target;
+        target.Array();
+        target = std::move(original);
+        EXPECT_EQ(target.Value(true).CloseObject().ToString(), "{\n  \"k\": true\n}");
+        EXPECT_EQ(original.ToString(), ""); // as a new one of the same layout
+        EXPECT_EQ(original.Array().Value(1).CloseArray().ToString(), "[\n  1\n]");
+    }
+    // A copy goes on where the original would, also inside text that it overwrites.
+    Stringer overwriting(std::make_unique<std::stringstream>("old text"));
+    overwriting.Value(1);
+    Stringer copy(overwriting);
+    EXPECT_EQ(copy.Value(2).ToString(), "12d text");
+    EXPECT_EQ(overwriting.Value(3).ToString(), "13d text");
+}
+
+TEST(Stringer, ClosesWhatAScopeHasOpened)
+{
+    Stringer json;
+    {
+        const auto object = json.ObjectScope();
+        EXPECT_EQ(&object.GetStringer(), &json);
+        const auto array = json.ArrayScope("a");
+        static_cast<void>(json.ObjectScope());
+        static_cast<void>(json.ArrayScope());
+        const auto inner = array.GetStringer().ObjectScope();
+        const auto innermost = json.ObjectScope("o");
+    }
+    EXPECT_EQ(json.ToString(), R"({"a":[{},[],{"o":{}}]})");
+
+    // An exception on its way leaves what can't be closed open, instead of ending the process.
+    Stringer broken;
+    const auto fail = [&]
+    {
+        const auto object = broken.ObjectScope();
+        const auto array = broken.ArrayScope("a");
+        const auto inner = broken.ObjectScope();
+        broken.Key("k");
+        throw std::runtime_error("on its way");
+    };
+    EXPECT_THROW(fail(), std::runtime_error);
+    EXPECT_EQ(broken.Value(1).CloseObject().CloseArray().CloseObject().ToString(), R"({"a":[{"k":1}]})");
+    EXPECT_THROW(
+        {
+            const auto array = broken.ArrayScope();
+            broken.CloseArray();
+        },
+        InvalidStringerState);
+}
+
+struct Grouping : std::numpunct<char>
+{
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\1"; }
+    std::string do_truename() const override { return "wahr"; }
+};
+
+TEST(Stringer, IgnoresTheGlobalLocale)
+{
+    const auto old = std::locale::global(std::locale(std::locale::classic(), new Grouping));
+    for (const bool onAStream : {false, true})
+    {
+        Stringer json(onAStream ? std::make_unique<std::stringstream>() : nullptr);
+        json.Array().Value(1234567).Value(1234.5).Value(true).CloseArray();
+        EXPECT_EQ(json.ToString(), "[1234567,1234.5,true]");
+    }
+    std::locale::global(old);
+}
+
+} // namespace
+} // namespace Qiv::Common::Serialization::Json
