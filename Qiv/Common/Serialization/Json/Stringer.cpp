@@ -300,10 +300,7 @@ bool Stringer::OuterLevels::Pop() noexcept
 
 Stringer::Stringer() noexcept = default;
 
-Stringer::Stringer(std::unique_ptr<std::stringstream>&& stream) noexcept
-    : stream_(std::move(stream)), writesThrough_(stream_ != nullptr)
-{
-}
+Stringer::Stringer(std::unique_ptr<std::stringstream>&& stream) noexcept : stream_(std::move(stream)) {}
 
 Stringer::Stringer(const Stringer& other)
     : pending_(other.pending_), level_(other.level_), states_(other.states_), prettyPrint_(other.prettyPrint_)
@@ -335,7 +332,6 @@ Stringer& Stringer::operator=(Stringer&& other) noexcept
     level_ = std::exchange(other.level_, LevelState());
     states_ = std::exchange(other.states_, OuterLevels());
     prettyPrint_ = other.prettyPrint_;
-    writesThrough_ = std::exchange(other.writesThrough_, false);
     return *this;
 }
 
@@ -350,9 +346,7 @@ Stringer Stringer::PrettyStringer()
 
 std::string Stringer::ToString() const
 {
-    if (stream_ == nullptr)
-        return std::string(pending_.Text());
-    return stream_->str().append(pending_.Text());
+    return stream_ == nullptr ? std::string(pending_.Text()) : stream_->str();
 }
 
 std::unique_ptr<std::stringstream> Stringer::TakeStream()
@@ -360,14 +354,12 @@ std::unique_ptr<std::stringstream> Stringer::TakeStream()
     WriteThrough();
     level_ = LevelState();
     states_ = OuterLevels();
-    writesThrough_ = false;
     return std::move(stream_);
 }
 
 std::stringstream& Stringer::Stream()
 {
     WriteThrough();
-    writesThrough_ = true;
     return *stream_;
 }
 
@@ -454,7 +446,7 @@ inline void Stringer::EndItem(char* end, bool needsValue)
     pending_.End(end);
     level_.empty = Depth() == 0;
     level_.needsValue = needsValue;
-    if (writesThrough_)
+    if (stream_ != nullptr)
         WriteThrough();
 }
 
@@ -466,7 +458,7 @@ Stringer& Stringer::Open(const char* operation, bool isObject)
     states_.Push(level_.isObject);
     level_ = LevelState(true, isObject, false);
     pending_.End(end);
-    if (writesThrough_)
+    if (stream_ != nullptr)
         WriteThrough();
     return *this;
 }

@@ -222,12 +222,11 @@ private:
     Stringer& Close(const char* operation, bool isObject);
     Stringer& Literal(const char* operation, std::string_view text);
 
-    std::unique_ptr<std::stringstream> stream_; // made when it is first asked for
-    TextBuffer pending_;                        // text that the stream has not received yet
-    LevelState level_;                          // the innermost level; at the top level an array that stays empty
+    std::unique_ptr<std::stringstream> stream_; // made when it is first asked for; from then on others may look at it
+    TextBuffer pending_; // text that no stream has received: nothing stays here when there is one
+    LevelState level_;   // the innermost level; at the top level an array that stays empty
     OuterLevels states_;
     bool prettyPrint_ = false;
-    bool writesThrough_ = false; // somebody else may look at the stream, so nothing may stay pending
 };
 
 } // namespace Qiv::Common::Serialization::Json
