@@ -123,6 +123,11 @@ TEST(QivTimeCodeParser, AcceptsAndRefusesEveryCharacterAsTheRegularExpressionsDo
             }
 }
 
+struct RefusingParser : QivTimeCodeParser
+{
+    TimeCode Parse(const std::string&) const override { throw 5; }
+};
+
 TEST(QivTimeCodeParser, GivesTheKnownOutcomes)
 {
     const auto format = [](const std::string& text)
@@ -150,6 +155,7 @@ TEST(QivTimeCodeParser, GivesTheKnownOutcomes)
         EXPECT_EQ(Outcome(text), outcome);
     const QivTimeCodeParser parser;
     EXPECT_EQ(TimeCode::Parse("10:00:00:00@25", parser).ToString(QivTimeCodeFormatter()), "-1-0-1-0-1T10:00:00:00@25");
+    EXPECT_EQ(RefusingParser().TryParse("10:00:00:00@25"), std::pair(false, TimeCode::Empty()));
     EXPECT_EQ(parser.StringToInt(" -12x"), -12);
     EXPECT_THROW(parser.StringToInt("x"), std::invalid_argument);
 }
