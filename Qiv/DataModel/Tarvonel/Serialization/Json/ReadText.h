@@ -18,9 +18,9 @@
 ///     if (const auto result = MergeText(text, channel); !result)
 ///         std::cerr << result.Position().line << ": " << result.ErrorMessage() << '\n';
 ///
-/// Failures: the text is no JSON; the document would end the process ("...: ends the process (...)"); or the text of
-/// the reader's own failure, unchanged. Each comes with its place, and the target is as it was. What can be thrown is
-/// what the readers throw whatever the document, see WholeReading.h.
+/// Failures: the text is no JSON; the document would end the process, told by the sentence of the finding; or the
+/// reader fails, told by its own text, unchanged. Each comes with its place, and the target is as it was. No text makes
+/// these functions throw; a target may, as `JsonToMediaIOConverter` says.
 namespace Qiv::DataModel::Tarvonel::Serialization::Json
 {
 

@@ -1,0 +1,209 @@
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
+
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
+
+#include <json/reader.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace Qiv::DataModel::Tarvonel::Serialization::Json
+{
+
+using Common::Serialization::Result;
+using Common::Serialization::Json::JsonObject;
+using Tarvonel::MediaIOs::Boundary;
+using Tarvonel::MediaIOs::MediaIO;
+using Tarvonel::MediaIOs::SequenceOutput;
+using Tarvonel::MediaIOs::Speed;
+using Tarvonel::Nodes::Node;
+
+namespace
+{
+
+// The kind that an entity is read as.
+DocumentKind KindOf(const MediaIO& channel)
+{
+    return channel.GetMode() == MediaIO::Mode::Input ? DocumentKind::MediaInput : DocumentKind::MediaOutput;
+}
+DocumentKind KindOf(const SequenceOutput&)
+{
+    return DocumentKind::SequenceOutput;
+}
+DocumentKind KindOf(const Speed&)
+{
+    return DocumentKind::Speed;
+}
+DocumentKind KindOf(const Node&)
+{
+    return DocumentKind::Node;
+}
+DocumentKind KindOf(const std::unique_ptr<Boundary>&)
+{
+    return DocumentKind::Boundary;
+}
+
+// Finds what jsoncpp lets through, or does not tell the place of: deep nesting, control characters in strings, and
+// texts that are none. Whatever else is wrong is left to jsoncpp.
+TextResult CheckText(std::string_view text)
+{
+    const auto failure = [text](const char* message, std::size_t offset)
+    { return TextResult(message, PositionOf(text, static_cast<std::ptrdiff_t>(offset))); };
+
+    if (text.substr(0, 3) == "\xEF\xBB\xBF")
+        return failure("a byte order mark may not stand before JSON", 0);
+    if (text.find_first_not_of(" \t\r\n") == std::string_view::npos)
+        return failure("the text is empty", text.size());
+
+    int depth = 0;
+    bool isInString = false;
+    for (std::size_t i = 0; i < text.size(); ++i)
+    {
+        const auto character = text[i];
+        if (character == '"')
+            isInString = !isInString;
+        else if (isInString && static_cast<unsigned char>(character) < 0x20)
+            return failure("a control character may not stand in a string", i);
+        else if (isInString)
+            i += character == '\\' ? 1 : 0;
+        else if (character == '{' || character == '[')
+            ++depth;
+        else if (character == '}' || character == ']')
+            --depth;
+        if (depth > maximumTextDepth)
+            return failure("objects and arrays are nested too deeply", i);
+    }
+    return {};
+}
+
+// Takes "* Line 3, Column 14\n  Missing ',' or '}' in object declaration\nSee Line ..." apart: jsoncpp tells the place
+// in no other way.
+TextResult FirstParseError(std::string_view errors)
+{
+    const auto numberAfter = [&errors](std::string_view word)
+    {
+        std::size_t number = 1;
+        const auto start = errors.find(word);
+        if (start != std::string_view::npos)
+        {
+            errors.remove_prefix(start + word.size());
+            std::from_chars(errors.data(), errors.data() + errors.size(), number);
+        }
+        return number;
+    };
+    TextPosition position;
+    position.line = numberAfter("Line ");
+    position.column = numberAfter("Column ");
+    errors.remove_prefix(std::min(errors.find("\n  "), errors.size()));
+    errors = errors.substr(std::min<std::size_t>(3, errors.size()));
+    auto message = std::string(errors.substr(0, errors.find('\n')));
+    // What jsoncpp says of 1e999, too.
+    if (const auto end = message.rfind(" is not a number."); end != std::string::npos)
+        message.replace(end, std::string::npos, " is no JSON number, or too large for one of 64 bits");
+    return {std::move(message), position};
+}
+
+TextResult FailureAt(std::string_view text, const Finding& finding, std::string message)
+{
+    return {std::move(message), PositionOf(text, finding.offset), finding.pointer};
+}
+
+template <typename Entity>
+TextResult Read(std::string_view text, Entity& entity, Result (*read)(const JsonObject&, Entity&))
+{
+    JsonObject json;
+    if (auto result = ParseText(text, json); !result)
+        return result;
+
+    const auto findings = InspectDocument(json, KindOf(entity));
+    if (const auto* const fatal = FirstFatal(findings))
+        return FailureAt(text, *fatal, fatal->sentence);
+    const auto result = read(json, entity);
+    if (result)
+        return {};
+    const auto* const announced = FirstFailure(findings);
+    return FailureAt(text, announced != nullptr ? *announced : Finding(), result.ErrorMessage());
+}
+
+} // namespace
+
+TextResult ParseText(std::string_view text, JsonObject& json)
+{
+    json = JsonObject();
+    if (auto result = CheckText(text); !result)
+        return result;
+
+    ::Json::CharReaderBuilder builder;
+    ::Json::CharReaderBuilder::strictMode(&builder.settings_);
+    const std::unique_ptr<::Json::CharReader> reader(builder.newCharReader());
+    std::string errors;
+    JsonObject parsed;
+    try
+    {
+        if (!reader->parse(text.data(), text.data() + text.size(), &parsed, &errors))
+            return FirstParseError(errors);
+    }
+    catch (const ::Json::Exception& exception)
+    {
+        return {exception.what(), TextPosition()};
+    }
+    json.swap(parsed);
+    return {};
+}
+
+TextResult MergeText(std::string_view text, MediaIO& channel)
+{
+    return Read<MediaIO>(text, channel, MergeWhole);
+}
+
+TextResult MergeText(std::string_view text, SequenceOutput& sequenceOutput)
+{
+    return Read<SequenceOutput>(text, sequenceOutput, MergeWhole);
+}
+
+TextResult MergeText(std::string_view text, Speed& speed)
+{
+    return Read<Speed>(text, speed, MergeWhole);
+}
+
+TextResult MergeText(std::string_view text, Node& node)
+{
+    return Read<Node>(text, node, MergeWhole);
+}
+
+TextResult MergeText(std::string_view text, std::unique_ptr<Boundary>& boundary)
+{
+    return Read<std::unique_ptr<Boundary>>(text, boundary, MergeWhole);
+}
+
+TextResult ReadSnapshotText(std::string_view text, MediaIO& channel)
+{
+    return Read<MediaIO>(text, channel, ReadSnapshot);
+}
+
+TextResult ReadSnapshotText(std::string_view text, SequenceOutput& sequenceOutput)
+{
+    return Read<SequenceOutput>(text, sequenceOutput, ReadSnapshot);
+}
+
+TextResult ReadSnapshotText(std::string_view text, Speed& speed)
+{
+    return Read<Speed>(text, speed, ReadSnapshot);
+}
+
+TextResult ReadSnapshotText(std::string_view text, Node& node)
+{
+    return Read<Node>(text, node, ReadSnapshot);
+}
+
+TextResult ReadSnapshotText(std::string_view text, std::unique_ptr<Boundary>& boundary)
+{
+    return Read<std::unique_ptr<Boundary>>(text, boundary, ReadSnapshot);
+}
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::Json
