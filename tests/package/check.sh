@@ -73,8 +73,9 @@ check_installed() # BUILD
 exported() # LIBRARY
 {
     local string='std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >'
-    nm --dynamic --defined-only --demangle "$1" | sed -nE 's/^[0-9a-f]+ ([TDBR]|[VW] (typeinfo|vtable)) /\1 /p' |
-        sed -E "s/^([TDBR]|[VW]) //; s/$string/std::string/g" | grep -F Qiv:: | LC_ALL=C sort -u
+    nm --dynamic --defined-only --demangle "$1" |
+        awk '$2 ~ /[TDBR]/ || /^[0-9a-f]+ [VW] (vtable|typeinfo) for Qiv::/ { sub(/^[0-9a-f]+ . /, ""); print }' |
+        sed "s/$string/std::string/g" | grep -F Qiv:: | grep -v '^typeinfo name' | LC_ALL=C sort -u
 }
 
 check_symbols() # BUILD [--write]
