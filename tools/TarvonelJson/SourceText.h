@@ -1,0 +1,33 @@
+#pragma once
+
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/TextPosition.h>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace TarvonelJson
+{
+
+/// The text of one document and where it comes from.
+struct SourceText
+{
+    using Position = Qiv::DataModel::Tarvonel::Serialization::Json::TextPosition;
+
+    std::string_view text;
+    /// The file as messages name it.
+    std::string file;
+    /// The line of the file on which the text begins.
+    std::size_t firstLine = 1;
+
+    /// A place in the text as a place in the file.
+    Position InFile(const Position& position) const { return {position.line + firstLine - 1, position.column}; }
+
+    /// The beginning of a message: `server.json:3:14: /name: `, without the pointer when it is empty.
+    std::string MessageStart(const Position& position, const std::string& pointer) const;
+};
+
+/// Writes a line on standard error, in one piece.
+void Report(const std::string& message);
+
+} // namespace TarvonelJson
