@@ -386,12 +386,13 @@ void Channel(Inspection& inspection, const JsonObject& value, const Shape& shape
     if (IsEmptyObject(value) || text == shape.tag)
         return inspection.Inspect(value, shape);
 
-    const auto& place = tag != nullptr ? *tag : value;
-    if (!text)
-        return inspection.ReportFailure(place, "has no text as \"_type\"", "Invalid JSON type (undefined)");
+    if (tag == nullptr)
+        return inspection.ReportFailure(value, "has no \"_type\"", "Invalid JSON type (undefined)");
     const Inspection::Step step(inspection, "_type");
+    if (!text)
+        return inspection.ReportFailure(*tag, "is no string", "Invalid JSON type (undefined)");
     if (*text == otherKind.tag)
-        inspection.ReportFailure(place, Quote(*text).append(" is not ").append(Quote(shape.tag)),
+        inspection.ReportFailure(*tag, Quote(*text).append(" is not ").append(Quote(shape.tag)),
                                  std::string("Inconsistent types - cannot merge JSON-")
                                      .append(otherKind.tag)
                                      .append(" source with ")
@@ -399,7 +400,7 @@ void Channel(Inspection& inspection, const JsonObject& value, const Shape& shape
                                      .append(" destination."));
     else
         inspection.ReportFailure(
-            place, Quote(*text).append(KindOf(value) ? " is no kind of channel" : " names no kind of document"),
+            *tag, Quote(*text).append(KindOf(value) ? " is no kind of channel" : " names no kind of document"),
             std::string("Invalid JSON type ('").append(*text).append("') : 'MediaInput' or 'MediaOutput' expected"));
 }
 

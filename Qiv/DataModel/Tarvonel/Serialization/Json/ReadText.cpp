@@ -48,8 +48,8 @@ DocumentKind KindOf(const std::unique_ptr<Boundary>&)
     return DocumentKind::Boundary;
 }
 
-// Finds what jsoncpp lets through, or does not tell the place of: deep nesting, control characters in strings, and
-// texts that are none. Whatever else is wrong is left to jsoncpp.
+// Finds what jsoncpp lets through, as some comments, and what it does not tell the place of, as deep nesting. Whatever
+// else is wrong is left to it.
 TextResult CheckText(std::string_view text)
 {
     const auto failure = [text](const char* message, std::size_t offset)
@@ -57,12 +57,15 @@ TextResult CheckText(std::string_view text)
 
     if (text.substr(0, 3) == "\xEF\xBB\xBF")
         return failure("a byte order mark may not stand before JSON", 0);
-    if (text.find_first_not_of(" \t\r\n") == std::string_view::npos)
+    const auto start = text.find_first_not_of(" \t\r\n");
+    if (start == std::string_view::npos)
         return failure("the text is empty", text.size());
+    if (text[start] != '{' && text[start] != '[')
+        return failure("a document is an object or an array", start);
 
     int depth = 0;
     bool isInString = false;
-    for (std::size_t i = 0; i < text.size(); ++i)
+    for (auto i = start; i < text.size(); ++i)
     {
         const auto character = text[i];
         if (character == '"')
@@ -71,6 +74,8 @@ TextResult CheckText(std::string_view text)
             return failure("a control character may not stand in a string", i);
         else if (isInString)
             i += character == '\\' ? 1 : 0;
+        else if (character == '/')
+            return failure("a comment may not stand in JSON", i);
         else if (character == '{' || character == '[')
             ++depth;
         else if (character == '}' || character == ']')

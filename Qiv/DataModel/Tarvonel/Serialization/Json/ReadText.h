@@ -30,8 +30,9 @@ constexpr int maximumTextDepth = 100;
 /// Parses one JSON document, an object or an array, into `json`.
 ///
 /// Strict: no byte order mark, no comments, no control characters in strings, no key twice in an object, nothing but
-/// white space after the document, at most `maximumTextDepth` levels; the document itself counts as one. Text that is
-/// not well-formed UTF-8 is let through, as the readers do. After a failure `json` is null.
+/// white space after the document, at most `maximumTextDepth` levels; the document itself counts as one. Let through,
+/// as jsoncpp does, are text that is not well-formed UTF-8 and numbers such as 01 and +1. After a failure `json` is
+/// null.
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ParseText(std::string_view text,
                                                                  Common::Serialization::Json::JsonObject& json);
 
