@@ -1,0 +1,232 @@
+#pragma once
+
+#include <Qiv/BusinessEntityModel/BaseTypes/GenericMetadataProfile.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryAbsolute.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryRelative.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaInput.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaOutput.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/PelOperatorMetadataProfile.h>
+#include <Qiv/DataModel/Tarvonel/Nodes/Node.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Qiv::Tests
+{
+
+/// Makes entities of the whole model, the same ones for the same seed: any part may be empty, texts hold quotes,
+/// control characters and UTF-8 of every length, numbers lie at their limits. Every entity survives writing and
+/// reading: it holds nothing that the JSON form leaves out or refuses, such as a time code without date.
+class ModelGenerator
+{
+    template <typename T>
+    using SharedReference = BusinessEntityModel::BaseTypes::SharedReference<T>;
+
+public:
+    explicit ModelGenerator(std::uint32_t seed) : random_(seed) {}
+
+    /// A number below `limit`.
+    std::uint32_t Below(std::uint32_t limit) { return static_cast<std::uint32_t>(random_()) % limit; }
+    bool Chance(std::uint32_t oneIn = 2) { return Below(oneIn) == 0; }
+
+    /// A number of any size, often at a limit.
+    std::int64_t Number64()
+    {
+        switch (Below(4))
+        {
+        case 0:
+            return INT64_MIN + Below(3);
+        case 1:
+            return INT64_MAX - Below(3);
+        case 2:
+            return std::int64_t{Below(3)} - 1;
+        default:
+            return static_cast<std::int64_t>(random_() >> Below(64));
+        }
+    }
+    std::int32_t Number32() { return static_cast<std::int32_t>(Number64()); }
+
+    /// Well-formed UTF-8 without NUL and without dot; one in four is empty.
+    std::string Text()
+    {
+        static const std::vector<std::string> pieces = {"a",
+                                                        "Z",
+                                                        "0",
+                                                        " ",
+                                                        "\"",
+                                                        "\\",
+                                                        "/",
+                                                        "{",
+                                                        "\n",
+                                                        "\t",
+                                                        "\x01",
+                                                        "\x1f",
+                                                        "\b",
+                                                        "\x7f",
+                                                        "\xC2\x80",
+                                                        "\xC3\xA9",
+                                                        "\xE2\x82\xAC",
+                                                        "\xEF\xBF\xBF",
+                                                        "Camera",
+                                                        "\xF0\x9F\x8E\xA5",
+                                                        "\xF4\x8F\xBF\xBF"};
+        std::string text;
+        for (auto count = Chance(4) ? 0 : Below(Chance(20) ? 300 : 12); count > 0; --count)
+            text += pieces[Below(static_cast<std::uint32_t>(pieces.size()))];
+        return text;
+    }
+
+    TimePoints::TimePoint MakeTimePoint()
+    {
+        return Chance(4) ? TimePoints::TimePoint::Empty() : TimePoints::TimePoint(Number64());
+    }
+
+    /// A time code with date that its text can hold.
+    TimePoints::TimeCode MakeTimeCode()
+    {
+        static constexpr std::int32_t rates[] = {1, 24, 25, 30, 48, 50, 60, 100, 120, INT32_MAX};
+        const auto rate = rates[Below(std::size(rates))];
+        const bool isDrop = (rate == 30 || rate == 60) && Chance();
+        const auto field = [this](std::int32_t limit)
+        { return static_cast<std::int32_t>(Chance(4) ? 0 : Below(static_cast<std::uint32_t>(limit))); };
+        const auto second = field(60);
+        auto frame = field(std::min(rate, 100));
+        if (isDrop && second == 0)
+            frame = std::max(frame, 4);
+        // A rate beyond all others, but early enough for 64 bits.
+        const auto year = rate == INT32_MAX ? 1900 : 1900 + field(362);
+        return {year,   1 + field(12), 1 + field(28),          field(24), field(60),
+                second, frame,         TimePoints::Rate(rate), isDrop};
+    }
+
+    DataModel::MediaAssets::MediaAsset MakeMediaAsset()
+    {
+        DataModel::MediaAssets::MediaAsset asset;
+        asset.Id(Text());
+        asset.Name(Text());
+        asset.InPoint(MakeTimePoint());
+        asset.OutPoint(MakeTimePoint());
+        return asset;
+    }
+
+    SharedReference<DataModel::MediaAssets::MediaAsset> MakeMediaAssetReference()
+    {
+        if (Chance())
+            return SharedReference<DataModel::MediaAssets::MediaAsset>(Text());
+        return std::make_shared<DataModel::MediaAssets::MediaAsset>(MakeMediaAsset());
+    }
+
+    DataModel::Tarvonel::MediaIOs::Speed MakeSpeed() { return {Number32(), static_cast<std::uint32_t>(Number64())}; }
+
+    std::unique_ptr<DataModel::Tarvonel::MediaIOs::Boundary> MakeBoundary()
+    {
+        using namespace DataModel::Tarvonel::MediaIOs;
+        if (Chance())
+            return std::make_unique<BoundaryAbsolute>(MakeTimePoint());
+        return std::make_unique<BoundaryRelative>(static_cast<BoundaryOrigin>(1 + Below(3)), Number32());
+    }
+
+    DataModel::Tarvonel::MediaIOs::SequenceOutput MakeSequenceOutput()
+    {
+        using BusinessEntityModel::Edits::Sequence;
+        using DataModel::Tarvonel::MediaIOs::SequenceOutput;
+        const auto block = [this]
+        {
+            SequenceOutput::AssetBlockOutput made;
+            made.Id(Text());
+            made.MediaAssetRef(MakeMediaAssetReference());
+            return made;
+        };
+        auto sequence = std::make_shared<Sequence>();
+        sequence->Id(Text());
+        sequence->Name(Text());
+        SharedReference<Sequence> reference = Chance() ? SharedReference<Sequence>(Text()) : sequence;
+        SequenceOutput output;
+        output.SequenceOnAir(reference);
+        output.AssetBlockOnAir(block());
+        if (Chance())
+            output.NextAssetBlockOnAir(block());
+        output.EditMode(Chance());
+        return output;
+    }
+
+    DataModel::Tarvonel::MediaIOs::MediaInput MakeMediaInput()
+    {
+        using namespace DataModel::Tarvonel::MediaIOs;
+        MediaInput channel;
+        FillCommon(channel);
+        channel.RecordingStatus(static_cast<RecordingStatus>(Below(3)));
+        channel.LastTimePoint(MakeTimePoint());
+        channel.LastTodTimecode(MakeTimeCode());
+        channel.LastUserTimecode(MakeTimeCode());
+        channel.PrimaryTimecodeType(static_cast<DataModel::MediaAssets::TimecodePrimary>(Below(3)));
+        TimePoints::Duration remaining(Number64());
+        channel.TotalCapacity(TimePoints::Duration(Number64()));
+        channel.RemainingCapacity(remaining);
+        return channel;
+    }
+
+    DataModel::Tarvonel::MediaIOs::MediaOutput MakeMediaOutput()
+    {
+        using namespace DataModel::Tarvonel::MediaIOs;
+        MediaOutput channel;
+        FillCommon(channel);
+        channel.PlayingStatus(static_cast<PlayingStatus>(Below(6)));
+        channel.SpeedOnAir(MakeSpeed());
+        channel.GlobalLoopMode(static_cast<PlayingLoopMode>(Below(4)));
+        TimePoints::Duration remaining(Number64());
+        channel.RemainingTime(remaining);
+        channel.CurrentTimePointOnAir(MakeTimePoint());
+        channel.TodTimecodeOnAir(MakeTimeCode());
+        channel.UserTimecodeOnAir(MakeTimeCode());
+        channel.PrimaryTimecodeType(static_cast<DataModel::MediaAssets::TimecodePrimary>(Below(3)));
+        if (Chance())
+            channel.Sequence(MakeSequenceOutput());
+        channel.InBoundary(MakeBoundary());
+        channel.OutBoundary(MakeBoundary());
+        return channel;
+    }
+
+    DataModel::Tarvonel::Nodes::Node MakeNode()
+    {
+        std::vector<std::string> addresses(Below(4));
+        std::generate(addresses.begin(), addresses.end(), [this] { return Text(); });
+        const std::string texts[] = {Text(), Text(), Text(), Text(), Text(), Text()};
+        return {texts[0], Number32(), texts[1], texts[2], addresses, texts[3], texts[4], texts[5]};
+    }
+
+private:
+    void FillCommon(DataModel::Tarvonel::MediaIOs::MediaIO& channel)
+    {
+        using BusinessEntityModel::BaseTypes::FullyQualifiedName;
+        using BusinessEntityModel::BaseTypes::GenericMetadataProfile;
+        channel.Id(Text());
+        channel.Name(Text());
+        channel.MediaAssetOnAir(MakeMediaAssetReference());
+        if (Chance())
+        {
+            DataModel::Tarvonel::MediaIOs::PelOperatorMetadataProfile profile;
+            profile.ServerId(static_cast<std::int32_t>(Below(1000)) * 10);
+            profile.Index(Number32() & INT32_MAX);
+            channel.Metadata().Set(std::make_shared<decltype(profile)>(profile));
+        }
+        for (auto count = Below(3); count > 0; --count)
+        {
+            const auto name = Chance() ? Text() : Text() + "." + Text();
+            auto profile = std::make_shared<GenericMetadataProfile>(FullyQualifiedName(name));
+            for (auto keys = 1 + Below(3); keys > 0; --keys)
+                profile->Set(Text(), Text());
+            channel.Metadata().Set(profile);
+        }
+    }
+
+    std::mt19937_64 random_;
+};
+
+} // namespace Qiv::Tests
