@@ -137,12 +137,12 @@ TEST(MetadataProfileDictionary, FindsStoresAndErasesByName)
     dictionary.Set(Name("null"), nullptr);
     EXPECT_EQ(dictionary.Size(), 2u);
     EXPECT_EQ(&dictionary.At(Name("a")), second.get());
-    EXPECT_EQ(dictionary.Find(Name("a")), second);
+    EXPECT_EQ(dictionary.Find("a"), second);
     EXPECT_TRUE(dictionary.Contains(Name("null")));
     EXPECT_EQ(dictionary.Values(), (std::vector<std::shared_ptr<MetadataProfile>>{second, nullptr}));
     for (const auto& name : {Name("absent"), Name("null")})
     {
-        EXPECT_EQ(dictionary.Find(name), nullptr);
+        EXPECT_EQ(dictionary.Find(name.Value()), nullptr);
         EXPECT_EQ(ThrownText<std::out_of_range>([&] { dictionary.At(name); }), "map::at");
         EXPECT_EQ(ThrownText<std::out_of_range>([&] { dictionary[name]; }), "map::at");
     }

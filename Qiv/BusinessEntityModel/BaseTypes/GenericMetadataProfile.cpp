@@ -75,9 +75,9 @@ bool GenericMetadataProfile::Erase(const std::string& key)
     return dictionary_.erase(key) != 0;
 }
 
-void GenericMetadataProfile::Set(const std::string& key, const std::string& value)
+void GenericMetadataProfile::Set(std::string key, std::string value)
 {
-    dictionary_.insert_or_assign(key, value);
+    dictionary_.insert_or_assign(std::move(key), std::move(value));
 }
 
 std::string GenericMetadataProfile::Get(const std::string& key) const

@@ -20,7 +20,7 @@ MetadataProfile& MetadataProfileDictionary::At(const FullyQualifiedName& name)
     return const_cast<MetadataProfile&>(std::as_const(*this).At(name));
 }
 
-std::shared_ptr<MetadataProfile> MetadataProfileDictionary::Find(const FullyQualifiedName& name) const
+std::shared_ptr<MetadataProfile> MetadataProfileDictionary::Find(std::string_view name) const
 {
     const auto entry = values_.find(name);
     return entry != values_.end() ? entry->second : nullptr;

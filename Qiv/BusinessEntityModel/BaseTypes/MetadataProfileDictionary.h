@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <map>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 namespace Qiv::BusinessEntityModel::BaseTypes
@@ -18,7 +19,27 @@ namespace Qiv::BusinessEntityModel::BaseTypes
 /// Size(), Contains(), Keys() and Values(), but it has no profile to give.
 class QIV_BUSINESSENTITYMODEL_BASETYPES_EXPORT MetadataProfileDictionary
 {
+    struct Less
+    {
+        using is_transparent = void;
+        static std::string_view Text(std::string_view name) noexcept { return name; }
+        static std::string_view Text(const FullyQualifiedName& name) noexcept { return name.Value(); }
+        template <typename Left, typename Right>
+        bool operator()(const Left& left, const Right& right) const noexcept
+        {
+            return Text(left) < Text(right);
+        }
+    };
+
+    using Profiles = std::map<FullyQualifiedName, std::shared_ptr<MetadataProfile>, Less>;
+
 public:
+    using const_iterator = Profiles::const_iterator;
+
+    /// The entries, pairs of name and profile, in the order of their names. A profile may be null.
+    const_iterator begin() const noexcept { return values_.begin(); }
+    const_iterator end() const noexcept { return values_.end(); }
+
     void Clear() noexcept { values_.clear(); }
     bool Empty() const noexcept { return values_.empty(); }
     std::size_t Size() const noexcept { return values_.size(); }
@@ -31,7 +52,7 @@ public:
     const MetadataProfile& operator[](const FullyQualifiedName& name) const { return At(name); }
     MetadataProfile& operator[](const FullyQualifiedName& name) { return At(name); }
     /// The profile under `name`, or null when there is none.
-    std::shared_ptr<MetadataProfile> Find(const FullyQualifiedName& name) const;
+    std::shared_ptr<MetadataProfile> Find(std::string_view name) const;
 
     /// All names, and all profiles in the order of their names.
     std::vector<FullyQualifiedName> Keys() const;
@@ -56,7 +77,7 @@ public:
     bool operator!=(const MetadataProfileDictionary& other) const { return !(*this == other); }
 
 private:
-    std::map<FullyQualifiedName, std::shared_ptr<MetadataProfile>> values_;
+    Profiles values_;
 };
 
 } // namespace Qiv::BusinessEntityModel::BaseTypes

@@ -5,6 +5,8 @@
 #include <Qiv/DataModel/MediaAssets/Export.h>
 #include <Qiv/TimePoints/TimePoint.h>
 
+#include <utility>
+
 namespace Qiv::DataModel::MediaAssets
 {
 
@@ -14,10 +16,12 @@ class QIV_DATAMODEL_MEDIAASSETS_EXPORT MediaAsset
 public:
     const BusinessEntityModel::BaseTypes::Identifier& Id() const noexcept { return id_; }
     void Id(const BusinessEntityModel::BaseTypes::Identifier& id) { id_ = id; }
+    void Id(BusinessEntityModel::BaseTypes::Identifier&& id) { id_ = std::move(id); }
 
     /// The display name; empty when unknown.
     const BusinessEntityModel::BaseTypes::Utf8String& Name() const noexcept { return name_; }
     void Name(const BusinessEntityModel::BaseTypes::Utf8String& name) { name_ = name; }
+    void Name(BusinessEntityModel::BaseTypes::Utf8String&& name) { name_ = std::move(name); }
 
     /// The first time point of the asset; empty when unknown.
     const TimePoints::TimePoint& InPoint() const noexcept { return inPoint_; }

@@ -19,15 +19,6 @@ inline bool IsEmptyObject(const JsonObject& json) noexcept
     return !json.isObject() || json.empty();
 }
 
-/// The text of a JSON string, without a copy; it lives as long as `string` is left alone. Asks for a string.
-inline std::string_view TextOf(const JsonObject& string) noexcept
-{
-    const char* begin = nullptr;
-    const char* end = nullptr;
-    return string.getString(&begin, &end) ? std::string_view(begin, static_cast<std::size_t>(end - begin))
-                                          : std::string_view();
-}
-
 /// The member `key` of a JSON object; null when `json` is not an object, and when the member is absent or null.
 /// Asks for the type first, since jsoncpp's own look-ups throw on arrays and scalars.
 inline const JsonObject* FindMember(const JsonObject& json, std::string_view key) noexcept
@@ -36,7 +27,7 @@ inline const JsonObject* FindMember(const JsonObject& json, std::string_view key
     return member != nullptr && !member->isNull() ? member : nullptr;
 }
 
-// The questions that readers ask of a member, which is null when it is absent or null. Each answers for that, too.
+// The questions that readers ask of a member. Each also answers for an absent one, a null pointer.
 
 inline const JsonObject* IfType(const JsonObject* member, ::Json::ValueType type) noexcept
 {
@@ -45,7 +36,17 @@ inline const JsonObject* IfType(const JsonObject* member, ::Json::ValueType type
 
 inline std::optional<std::string_view> IfText(const JsonObject* member) noexcept
 {
-    return IfType(member, ::Json::stringValue) ? std::optional<std::string_view>(TextOf(*member)) : std::nullopt;
+    const char* begin = nullptr;
+    const char* end = nullptr;
+    return member != nullptr && member->getString(&begin, &end)
+               ? std::optional<std::string_view>(std::in_place, begin, static_cast<std::size_t>(end - begin))
+               : std::nullopt;
+}
+
+/// The text of a JSON string, without a copy; it lives as long as `string` is left alone. Empty for any other type.
+inline std::string_view TextOf(const JsonObject& string) noexcept
+{
+    return IfText(&string).value_or(std::string_view());
 }
 
 /// The value when jsoncpp calls it an integer of 32 bits, `isInt()` (so 3.0 is one).
@@ -63,9 +64,28 @@ inline std::optional<bool> IfBool(const JsonObject* member) noexcept
 /// when it is that text, has another type, or is absent.
 QIV_COMMON_SERIALIZATION_EXPORT Result CheckType(const JsonObject* type, std::string_view expected);
 
-/// Sets `members[i]` to the member `ascendingKeys[i]` of a JSON object and leaves it alone when there is none.
-/// What `KnownMembers` does, for keys in byte-wise ascending order.
-QIV_COMMON_SERIALIZATION_EXPORT void FindMembers(const JsonObject& json, const std::string_view* ascendingKeys,
+/// The first eight bytes of a key as a number that orders like them; shorter keys are filled up with zeros.
+constexpr std::uint64_t KeyPrefix(std::string_view key) noexcept
+{
+    std::uint64_t prefix = 0;
+    for (std::size_t i = 0; i < sizeof prefix && i < key.size(); ++i)
+        prefix |= std::uint64_t{static_cast<unsigned char>(key[i])} << (56 - 8 * i);
+    return prefix;
+}
+
+/// A key that a reader knows.
+struct KnownKey
+{
+    constexpr KnownKey() = default;
+    constexpr explicit KnownKey(std::string_view name) noexcept : text(name), prefix(KeyPrefix(name)) {}
+
+    std::string_view text;
+    std::uint64_t prefix = 0;
+};
+
+/// Sets `members[i]` to the member with the text of `ascendingKeys[i]`, and leaves it alone when there is none.
+/// What `KnownMembers` does. Returns whether there are members at all.
+QIV_COMMON_SERIALIZATION_EXPORT bool FindMembers(const JsonObject& json, const KnownKey* ascendingKeys,
                                                  std::size_t keyCount, const JsonObject** members) noexcept;
 
 /// The members of a JSON object that a reader knows, all found in one walk over the object.
@@ -89,37 +109,56 @@ class KnownMembers
     }
     static_assert(IsAscending(), "list the keys in byte-wise ascending order");
 
+    static constexpr std::array<KnownKey, count> MakeKeys()
+    {
+        std::array<KnownKey, count> result{};
+        for (std::size_t i = 0; i < count; ++i)
+            result[i] = KnownKey(Keys::names[i]);
+        return result;
+    }
+    static constexpr std::array<KnownKey, count> keys = MakeKeys();
+
 public:
     using Index = typename Keys::Index;
 
     explicit KnownMembers(const JsonObject& json) noexcept
     {
-        FindMembers(json, Keys::names.data(), count, members_.data());
+        isEmpty_ = !FindMembers(json, keys.data(), count, members_.data());
     }
+
+    /// What IsEmptyObject says of the object.
+    bool IsEmpty() const noexcept { return isEmpty_; }
 
     // Always inline: merged copies of them for two sizes of key set make g++ warn of array bounds.
 
     /// The member, whatever its type; null when it is absent or null.
     [[gnu::always_inline]] const JsonObject* Any(Index key) const noexcept
     {
-        return members_[static_cast<std::size_t>(key)];
+        const auto* const member = Found(key);
+        return member != nullptr && !member->isNull() ? member : nullptr;
     }
 
     /// The member when it is of the type, otherwise null or nothing.
     [[gnu::always_inline]] const JsonObject* Object(Index key) const noexcept
     {
-        return IfType(Any(key), ::Json::objectValue);
+        return IfType(Found(key), ::Json::objectValue);
     }
     [[gnu::always_inline]] const JsonObject* Array(Index key) const noexcept
     {
-        return IfType(Any(key), ::Json::arrayValue);
+        return IfType(Found(key), ::Json::arrayValue);
     }
-    [[gnu::always_inline]] std::optional<std::string_view> Text(Index key) const noexcept { return IfText(Any(key)); }
-    [[gnu::always_inline]] std::optional<std::int32_t> Int(Index key) const noexcept { return IfInt(Any(key)); }
-    [[gnu::always_inline]] std::optional<bool> Bool(Index key) const noexcept { return IfBool(Any(key)); }
+    [[gnu::always_inline]] std::optional<std::string_view> Text(Index key) const noexcept { return IfText(Found(key)); }
+    [[gnu::always_inline]] std::optional<std::int32_t> Int(Index key) const noexcept { return IfInt(Found(key)); }
+    [[gnu::always_inline]] std::optional<bool> Bool(Index key) const noexcept { return IfBool(Found(key)); }
 
 private:
+    [[gnu::always_inline]] const JsonObject* Found(Index key) const noexcept
+    {
+        return members_[static_cast<std::size_t>(key)];
+    }
+
     std::array<const JsonObject*, count> members_{};
+    bool isEmpty_ = true;
 };
 
 } // namespace Qiv::Common::Serialization::Json

@@ -11,8 +11,8 @@ void AppendNanosecondsObject(Stringer& stringer, const char* type, std::int64_t 
     const auto* const end = std::to_chars(std::begin(digits), std::end(digits), nanoseconds).ptr;
 
     stringer.Object();
-    stringer.Key("_type").Value(type);
-    stringer.Key("value").Value(std::string_view(digits, static_cast<std::size_t>(end - digits)));
+    stringer.Member("_type", type);
+    stringer.Member("value", std::string_view(digits, static_cast<std::size_t>(end - digits)));
     stringer.CloseObject();
 }
 

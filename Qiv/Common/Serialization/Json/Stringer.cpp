@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstring>
 #include <exception>
+#include <new>
 #include <stdexcept>
 #include <utility>
 
@@ -205,13 +206,15 @@ char* Stringer::TextBuffer::Grow(char* end, std::size_t room)
     const auto doubled = 2 * static_cast<std::size_t>(limit_ - data_.get());
     const auto capacity = std::max({firstCapacity, doubled, composed + room});
 
-    std::unique_ptr<char[]> data(new char[capacity]);
-    if (composed != 0)
-        std::memcpy(data.get(), data_.get(), composed);
-    end_ = data.get() + (end_ - data_.get());
-    limit_ = data.get() + capacity;
-    data_ = std::move(data);
-    return data_.get() + composed;
+    const auto committed = end_ - data_.get();
+    auto* const data = static_cast<char*>(std::realloc(data_.get(), capacity));
+    if (data == nullptr)
+        throw std::bad_alloc();
+    static_cast<void>(data_.release()); // realloc has taken it
+    data_.reset(data);
+    end_ = data + committed;
+    limit_ = data + capacity;
+    return data + composed;
 }
 
 inline char* Stringer::TextBuffer::Quote(char* end, std::string_view text)
@@ -540,6 +543,18 @@ Stringer& Stringer::Value(std::string_view value)
 {
     ThrowIfInvalidState("Value");
     EndItem(pending_.Quote(BeginItem(TextBuffer::QuotedRoom(value)), value), false);
+    return *this;
+}
+
+Stringer& Stringer::Member(std::string_view key, std::string_view value)
+{
+    ThrowIfKeyIsInvalid();
+    auto* end = pending_.Quote(BeginItem(TextBuffer::QuotedRoom(key)), key);
+    *end++ = ':';
+    if (prettyPrint_)
+        *end++ = ' ';
+    end = pending_.Reserve(end, TextBuffer::QuotedRoom(value));
+    EndItem(pending_.Quote(end, value), false);
     return *this;
 }
 

@@ -7,6 +7,8 @@
 #include <Qiv/DataModel/MediaAssets/MediaAsset.h>
 #include <Qiv/DataModel/Tarvonel/Export.h>
 
+#include <utility>
+
 namespace Qiv::DataModel::Tarvonel::MediaIOs
 {
 
@@ -29,10 +31,12 @@ public:
 
     const BusinessEntityModel::BaseTypes::Identifier& Id() const noexcept { return id_; }
     void Id(const BusinessEntityModel::BaseTypes::Identifier& id) { id_ = id; }
+    void Id(BusinessEntityModel::BaseTypes::Identifier&& id) { id_ = std::move(id); }
 
     /// The display name.
     const BusinessEntityModel::BaseTypes::Utf8String& Name() const noexcept { return name_; }
     void Name(const BusinessEntityModel::BaseTypes::Utf8String& name) { name_ = name; }
+    void Name(BusinessEntityModel::BaseTypes::Utf8String&& name) { name_ = std::move(name); }
 
     const BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset>& MediaAssetOnAir() const noexcept
     {
@@ -41,6 +45,10 @@ public:
     void MediaAssetOnAir(const BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset>& mediaAsset)
     {
         mediaAssetOnAir_ = mediaAsset;
+    }
+    void MediaAssetOnAir(BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset>&& mediaAsset)
+    {
+        mediaAssetOnAir_ = std::move(mediaAsset);
     }
 
     BusinessEntityModel::BaseTypes::EditorialMetadata& Metadata() noexcept;

@@ -14,6 +14,7 @@
 #include <Qiv/TimePoints/TimePoint.h>
 
 #include <memory>
+#include <utility>
 
 namespace Qiv::DataModel::Tarvonel::MediaIOs
 {
@@ -71,6 +72,7 @@ public:
     /// The state of the sequence; present only while one is played.
     const BusinessEntityModel::BaseTypes::Optional<SequenceOutput>& Sequence() const noexcept { return sequence_; }
     void Sequence(const SequenceOutput& sequence) { sequence_ = sequence; }
+    void Sequence(SequenceOutput&& sequence) { sequence_ = std::move(sequence); }
     void ClearSequence() noexcept { sequence_.Undefine(); }
 
     /// Never null.

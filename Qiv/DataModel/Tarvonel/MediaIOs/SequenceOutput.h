@@ -7,6 +7,8 @@
 #include <Qiv/DataModel/MediaAssets/MediaAsset.h>
 #include <Qiv/DataModel/Tarvonel/Export.h>
 
+#include <utility>
+
 namespace Qiv::DataModel::Tarvonel::MediaIOs
 {
 
@@ -22,6 +24,7 @@ public:
         /// The identifier of the block within the sequence.
         const BusinessEntityModel::BaseTypes::Identifier& Id() const noexcept { return id_; }
         void Id(const BusinessEntityModel::BaseTypes::Identifier& id) { id_ = id; }
+        void Id(BusinessEntityModel::BaseTypes::Identifier&& id) { id_ = std::move(id); }
 
         const BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset>& MediaAssetRef() const noexcept
         {
@@ -30,6 +33,10 @@ public:
         void MediaAssetRef(const BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset>& mediaAsset)
         {
             mediaAssetRef_ = mediaAsset;
+        }
+        void MediaAssetRef(BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset>&& mediaAsset)
+        {
+            mediaAssetRef_ = std::move(mediaAsset);
         }
 
         bool operator==(const AssetBlockOutput& other) const noexcept;
@@ -53,6 +60,7 @@ public:
 
     const AssetBlockOutput& AssetBlockOnAir() const noexcept { return assetBlockOnAir_; }
     void AssetBlockOnAir(const AssetBlockOutput& block) { assetBlockOnAir_ = block; }
+    void AssetBlockOnAir(AssetBlockOutput&& block) { assetBlockOnAir_ = std::move(block); }
 
     /// The block that follows the one on air, when there is one. Through the non-const form it can be changed and
     /// cleared.
@@ -65,6 +73,7 @@ public:
         return nextAssetBlockOnAir_;
     }
     void NextAssetBlockOnAir(const AssetBlockOutput& block) { nextAssetBlockOnAir_ = block; }
+    void NextAssetBlockOnAir(AssetBlockOutput&& block) { nextAssetBlockOnAir_ = std::move(block); }
 
     /// True while the sequence is being edited.
     bool EditMode() const noexcept { return editMode_; }

@@ -29,9 +29,9 @@ JsonToSequenceConverter::~JsonToSequenceConverter() = default;
 
 Result JsonToSequenceConverter::To(const JsonObject& json, Sequence& sequence) const
 {
-    if (IsEmptyObject(json))
-        return "Sequence is empty";
     const KnownMembers<Keys> members(json);
+    if (members.IsEmpty())
+        return "Sequence is empty";
     if (auto result = CheckType(members.Any(Key::Type), "Sequence"); !result)
         return result;
 

@@ -9,10 +9,10 @@ Common::Serialization::Result SequenceToJsonConverter::To(const Sequence& sequen
                                                           Common::Serialization::Json::Stringer& stringer) const
 {
     stringer.Object();
-    stringer.Key("_type").Value("Sequence");
-    stringer.Key("id").Value(sequence.Id().Value().c_str());
+    stringer.Member("_type", "Sequence");
+    stringer.Member("id", sequence.Id().Value().c_str());
     if (!sequence.Name().empty())
-        stringer.Key("name").Value(sequence.Name().c_str());
+        stringer.Member("name", sequence.Name().c_str());
     stringer.CloseObject();
     return {};
 }

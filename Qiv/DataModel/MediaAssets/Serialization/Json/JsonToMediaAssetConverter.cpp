@@ -35,9 +35,9 @@ JsonToMediaAssetConverter::~JsonToMediaAssetConverter() = default;
 
 Result JsonToMediaAssetConverter::To(const JsonObject& json, MediaAsset& mediaAsset) const
 {
-    if (IsEmptyObject(json))
-        return "MediaAsset is empty";
     const KnownMembers<Keys> members(json);
+    if (members.IsEmpty())
+        return "MediaAsset is empty";
     if (auto result = CheckType(members.Any(Key::Type), "MediaAsset"); !result)
         return result;
 

@@ -41,9 +41,9 @@ Result JsonToTimePointConverter::To(const JsonObject& json, TimePoint& timePoint
 {
     using Key = NanosecondsObjectKeys::Index;
 
-    if (IsEmptyObject(json))
-        return "TimePoint is empty";
     const KnownMembers<NanosecondsObjectKeys> members(json);
+    if (members.IsEmpty())
+        return "TimePoint is empty";
     if (auto result = CheckType(members.Any(Key::Type), "TimePoint"); !result)
         return result;
 

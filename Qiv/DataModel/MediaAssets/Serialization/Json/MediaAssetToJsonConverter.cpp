@@ -16,10 +16,10 @@ namespace
 
 Result AppendMembers(const MediaAsset& mediaAsset, const ToJsonConverter<TimePoint>& timePoints, Stringer& stringer)
 {
-    stringer.Key("_type").Value("MediaAsset");
-    stringer.Key("id").Value(mediaAsset.Id().Value().c_str());
+    stringer.Member("_type", "MediaAsset");
+    stringer.Member("id", mediaAsset.Id().Value().c_str());
     if (!mediaAsset.Name().empty())
-        stringer.Key("name").Value(mediaAsset.Name().c_str());
+        stringer.Member("name", mediaAsset.Name().c_str());
     if (mediaAsset.InPoint() != TimePoint::Empty())
     {
         stringer.Key("inPoint");

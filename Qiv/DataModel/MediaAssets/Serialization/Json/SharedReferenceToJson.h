@@ -50,8 +50,8 @@ public:
     /// Writes the members of the reference into an object that is already open.
     Result Append(const Reference& reference, Stringer& stringer) const
     {
-        stringer.Key("_type").Value(typeProperty_.c_str());
-        stringer.Key("id").Value(reference.Id().Value().c_str());
+        stringer.Member("_type", typeProperty_.c_str());
+        stringer.Member("id", reference.Id().Value().c_str());
         if (reference.Pointer() == nullptr || jsonConverter_ == nullptr)
             return {};
         stringer.Key(embeddedProperty_.c_str());

@@ -47,7 +47,7 @@ Result BoundaryToJsonConverter::To(const Boundary& boundary, Stringer& stringer)
 
 Result BoundaryToJsonConverter::Append(Stringer& stringer, const BoundaryAbsolute& boundary) const noexcept
 {
-    stringer.Key("_type").Value("BoundaryAbsolute");
+    stringer.Member("_type", "BoundaryAbsolute");
     if (boundary.Timepoint() != TimePoint::Empty())
     {
         stringer.Key("timepoint");
@@ -58,8 +58,8 @@ Result BoundaryToJsonConverter::Append(Stringer& stringer, const BoundaryAbsolut
 
 Result BoundaryToJsonConverter::Append(Stringer& stringer, const BoundaryRelative& boundary) const noexcept
 {
-    stringer.Key("_type").Value("BoundaryRelative");
-    stringer.Key("origin").Value(ToString(boundary.Origin()).c_str());
+    stringer.Member("_type", "BoundaryRelative");
+    stringer.Member("origin", ToString(boundary.Origin()).c_str());
     stringer.Key("offset").Value(boundary.Offset());
     return {};
 }

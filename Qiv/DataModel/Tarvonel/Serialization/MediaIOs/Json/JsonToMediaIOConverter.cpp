@@ -1,28 +1,23 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToMediaIOConverter.h>
 
 #include <Qiv/Common/Serialization/Json/KnownMembers.h>
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToMediaAssetConverter.h>
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToSharedReference.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelReading.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/References.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToMetadataProfileDictionaryConverter.h>
 
 #include <cstring>
-#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
 using namespace Common::Serialization::Json;
 using BusinessEntityModel::BaseTypes::Identifier;
-using BusinessEntityModel::BaseTypes::SharedReference;
 using BusinessEntityModel::BaseTypes::Utf8String;
 using Details::ChannelKey;
 using Details::ChannelMembers;
-using MediaAssets::MediaAsset;
-using MediaAssets::Serialization::Json::JsonToMediaAssetConverter;
-using MediaAssets::Serialization::Json::JsonToSharedReference;
 using Tarvonel::MediaIOs::MediaInput;
 using Tarvonel::MediaIOs::MediaIO;
 using Tarvonel::MediaIOs::MediaOutput;
@@ -42,9 +37,9 @@ JsonToMediaIOConverter::~JsonToMediaIOConverter() = default;
 
 Result JsonToMediaIOConverter::To(const JsonObject& json, MediaIO& channel) const
 {
-    if (IsEmptyObject(json))
-        return "MediaIO is empty";
     const ChannelMembers members(json);
+    if (members.IsEmpty())
+        return "MediaIO is empty";
     const auto type = members.Text(ChannelKey::Type);
     if (!type)
         return "Invalid JSON type (undefined)";
@@ -83,12 +78,10 @@ Result Details::AppendCommon(const ChannelMembers& members, MediaIO& channel)
 
     if (const auto* mediaAssetOnAir = members.Object(ChannelKey::MediaAssetOnAir))
     {
-        const JsonToSharedReference<MediaAsset> converter("MediaAssetRef", "mediaAsset",
-                                                          std::make_shared<JsonToMediaAssetConverter>());
-        SharedReference<MediaAsset> reference;
-        if (auto result = converter.To(*mediaAssetOnAir, reference); !result)
+        MediaAssetReference reference;
+        if (auto result = MediaAssetReferenceReader().To(*mediaAssetOnAir, reference); !result)
             return result;
-        channel.MediaAssetOnAir(reference);
+        channel.MediaAssetOnAir(std::move(reference));
     }
 
     if (const auto* metadata = members.Object(ChannelKey::Metadata))

@@ -20,9 +20,9 @@ JsonToMediaInputConverter::~JsonToMediaInputConverter() = default;
 
 Result JsonToMediaInputConverter::To(const JsonObject& json, MediaInput& channel) const noexcept
 {
-    if (IsEmptyObject(json))
-        return "MediaInput is empty";
     const ChannelMembers members(json);
+    if (members.IsEmpty())
+        return "MediaInput is empty";
     if (auto result = CheckType(members.Any(ChannelKey::Type), "MediaInput"); !result)
         return result;
     if (auto result = Details::AppendCommon(members, channel); !result)

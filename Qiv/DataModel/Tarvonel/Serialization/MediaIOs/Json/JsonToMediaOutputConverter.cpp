@@ -60,9 +60,9 @@ JsonToMediaOutputConverter::~JsonToMediaOutputConverter() = default;
 
 Result JsonToMediaOutputConverter::To(const JsonObject& json, MediaOutput& channel) const noexcept
 {
-    if (IsEmptyObject(json))
-        return "MediaOutput is empty";
     const ChannelMembers members(json);
+    if (members.IsEmpty())
+        return "MediaOutput is empty";
     if (auto result = CheckType(members.Any(ChannelKey::Type), "MediaOutput"); !result)
         return result;
     if (auto result = Details::AppendCommon(members, channel); !result)
@@ -103,7 +103,7 @@ Result Details::AppendOutput(const ChannelMembers& members, MediaOutput& channel
         SequenceOutput sequenceOutput;
         if (auto result = sequenceOutputConverter.To(*sequence, sequenceOutput); !result)
             return result;
-        channel.Sequence(sequenceOutput);
+        channel.Sequence(std::move(sequenceOutput));
     }
 
     if (const auto* timePointOnAir = members.Object(ChannelKey::CurrentTimePointOnAir))

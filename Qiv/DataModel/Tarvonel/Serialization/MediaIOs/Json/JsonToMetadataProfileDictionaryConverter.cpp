@@ -26,7 +26,7 @@ constexpr std::string_view operatorName = "qiv.peloperator";
 void ReadOperatorProfile(const JsonObject& json, MetadataProfileDictionary& dictionary)
 {
     const JsonToPelOperatorMetaDataConverter converter;
-    if (const auto existing = dictionary.Find(FullyQualifiedName(std::string(operatorName))))
+    if (const auto existing = dictionary.Find(operatorName))
     {
         // Dropped on purpose: an existing profile keeps what could be read, also when the rest could not.
         static_cast<void>(converter.To(json, dynamic_cast<PelOperatorMetadataProfile&>(*existing)));
@@ -37,12 +37,12 @@ void ReadOperatorProfile(const JsonObject& json, MetadataProfileDictionary& dict
         dictionary.Set(std::make_shared<PelOperatorMetadataProfile>(profile));
 }
 
-GenericMetadataProfile& GenericProfile(const FullyQualifiedName& name, MetadataProfileDictionary& dictionary)
+GenericMetadataProfile& GenericProfile(std::string_view name, MetadataProfileDictionary& dictionary)
 {
     auto profile = dictionary.Find(name);
     if (profile == nullptr)
     {
-        profile = std::make_shared<GenericMetadataProfile>(name);
+        profile = std::make_shared<GenericMetadataProfile>(FullyQualifiedName(std::string(name)));
         dictionary.Set(profile);
     }
     return dynamic_cast<GenericMetadataProfile&>(*profile);
@@ -62,13 +62,17 @@ Result JsonToMetadataProfileDictionaryConverter::To(const JsonObject& json, Meta
     // Members of one namespace follow each other, so its profile is looked up once.
     std::string_view currentNamespace;
     GenericMetadataProfile* profile = nullptr;
-    for (auto member = json.begin(); member != json.end(); ++member)
+    auto member = json.begin();
+    for (auto left = json.size(); left != 0; --left, ++member)
     {
+        const auto text = IfText(&*member);
+        if (!text)
+            continue;
         const char* nameEnd = nullptr;
         const char* const nameBegin = member.memberName(&nameEnd);
         const std::string_view name(nameBegin, static_cast<std::size_t>(nameEnd - nameBegin));
         const auto lastDot = name.rfind('.');
-        if (!member->isString() || lastDot == std::string_view::npos)
+        if (lastDot == std::string_view::npos)
             continue;
 
         const auto profileNamespace = name.substr(0, lastDot);
@@ -78,10 +82,10 @@ Result JsonToMetadataProfileDictionaryConverter::To(const JsonObject& json, Meta
 
         if (profile == nullptr || profileNamespace != currentNamespace)
         {
-            profile = &GenericProfile(FullyQualifiedName(std::string(profileNamespace)), dictionary);
+            profile = &GenericProfile(profileNamespace, dictionary);
             currentNamespace = profileNamespace;
         }
-        profile->Set(std::string(name.substr(lastDot + 1)), std::string(TextOf(*member)));
+        profile->Set(std::string(name.substr(lastDot + 1)), std::string(*text));
     }
     return {};
 }

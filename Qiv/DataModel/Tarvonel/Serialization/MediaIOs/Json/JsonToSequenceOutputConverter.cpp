@@ -1,24 +1,16 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToSequenceOutputConverter.h>
 
-#include <Qiv/BusinessEntityModel/Edits/Serialization/Json/JsonToSequenceConverter.h>
 #include <Qiv/Common/Serialization/Json/KnownMembers.h>
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToMediaAssetConverter.h>
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToSharedReference.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/References.h>
 
-#include <memory>
 #include <string>
+#include <utility>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
 using namespace Common::Serialization::Json;
 using BusinessEntityModel::BaseTypes::Identifier;
-using BusinessEntityModel::BaseTypes::SharedReference;
-using BusinessEntityModel::Edits::Sequence;
-using BusinessEntityModel::Edits::Serialization::Json::JsonToSequenceConverter;
-using MediaAssets::MediaAsset;
-using MediaAssets::Serialization::Json::JsonToMediaAssetConverter;
-using MediaAssets::Serialization::Json::JsonToSharedReference;
 using Tarvonel::MediaIOs::SequenceOutput;
 
 namespace
@@ -57,18 +49,16 @@ Result JsonToSequenceOutputConverter::To(const JsonObject& json, SequenceOutput&
 {
     using Key = SequenceOutputKeys::Index;
 
-    if (IsEmptyObject(json))
-        return "SequenceOutput is empty";
     const KnownMembers<SequenceOutputKeys> members(json);
+    if (members.IsEmpty())
+        return "SequenceOutput is empty";
     if (auto result = CheckType(members.Any(Key::Type), "SequenceOutput"); !result)
         return result;
 
     if (const auto* sequenceOnAir = members.Object(Key::SequenceOnAir))
     {
-        const JsonToSharedReference<Sequence> converter("SequenceRef", "sequence",
-                                                        std::make_shared<JsonToSequenceConverter>());
-        SharedReference<Sequence> reference;
-        if (auto result = converter.To(*sequenceOnAir, reference); !result)
+        Details::SequenceReference reference;
+        if (auto result = Details::SequenceReferenceReader().To(*sequenceOnAir, reference); !result)
             return result;
         sequenceOutput.SequenceOnAir(reference);
     }
@@ -78,7 +68,7 @@ Result JsonToSequenceOutputConverter::To(const JsonObject& json, SequenceOutput&
         SequenceOutput::AssetBlockOutput assetBlock;
         if (auto result = ToAssetBlockOutput(*assetBlockOnAir, assetBlock); !result)
             return result;
-        sequenceOutput.AssetBlockOnAir(assetBlock);
+        sequenceOutput.AssetBlockOnAir(std::move(assetBlock));
     }
 
     if (const auto* nextAssetBlockOnAir = members.Object(Key::NextAssetBlockOnAir))
@@ -86,7 +76,7 @@ Result JsonToSequenceOutputConverter::To(const JsonObject& json, SequenceOutput&
         SequenceOutput::AssetBlockOutput assetBlock;
         if (auto result = ToAssetBlockOutput(*nextAssetBlockOnAir, assetBlock); !result)
             return result;
-        sequenceOutput.NextAssetBlockOnAir(assetBlock);
+        sequenceOutput.NextAssetBlockOnAir(std::move(assetBlock));
     }
 
     if (const auto editMode = members.Bool(Key::EditMode))
@@ -109,12 +99,10 @@ Result JsonToSequenceOutputConverter::ToAssetBlockOutput(const JsonObject& json,
 
     if (const auto* mediaAsset = members.Object(Key::MediaAsset))
     {
-        const JsonToSharedReference<MediaAsset> converter("MediaAssetRef", "mediaAsset",
-                                                          std::make_shared<JsonToMediaAssetConverter>());
-        SharedReference<MediaAsset> reference;
-        if (auto result = converter.To(*mediaAsset, reference); !result)
+        Details::MediaAssetReference reference;
+        if (auto result = Details::MediaAssetReferenceReader().To(*mediaAsset, reference); !result)
             return result;
-        assetBlock.MediaAssetRef(reference);
+        assetBlock.MediaAssetRef(std::move(reference));
     }
 
     return {};

@@ -29,9 +29,9 @@ JsonToSpeedConverter::~JsonToSpeedConverter() = default;
 
 Result JsonToSpeedConverter::To(const JsonObject& json, Speed& speed) const noexcept
 {
-    if (IsEmptyObject(json))
-        return "Speed is empty";
     const KnownMembers<Keys> members(json);
+    if (members.IsEmpty())
+        return "Speed is empty";
     if (auto result = CheckType(members.Any(Key::Type), "Speed"); !result)
         return result;
 

@@ -1,8 +1,8 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaIOToJsonConverter.h>
 
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/MediaAssetToJsonConverter.h>
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/SharedReferenceToJson.h>
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelWriting.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/References.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaInputToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaOutputToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MetadataProfileDictionaryToJsonConverter.h>
@@ -13,9 +13,6 @@
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
-using MediaAssets::MediaAsset;
-using MediaAssets::Serialization::Json::MediaAssetToJsonConverter;
-using MediaAssets::Serialization::Json::SharedReferenceToJson;
 using MediaAssets::Serialization::Json::TimePointToJsonObjectConverter;
 using Tarvonel::MediaIOs::MediaInput;
 using Tarvonel::MediaIOs::MediaIO;
@@ -57,19 +54,22 @@ Result MediaIOToJsonConverter::To(const MediaIO& channel, Stringer& stringer) co
 
 Result MediaIOToJsonConverter::AppendMediaIO(const MediaIO& channel, Stringer& stringer) const
 {
+    return Details::AppendCommon(stringer, channel);
+}
+
+Result Details::AppendCommon(Stringer& stringer, const MediaIO& channel)
+{
     if (!channel.Id().IsEmpty())
-        stringer.Key("id").Value(channel.Id().Value().c_str());
+        stringer.Member("id", channel.Id().Value().c_str());
 
     if (!channel.Name().empty())
-        stringer.Key("name").Value(channel.Name().c_str());
+        stringer.Member("name", channel.Name().c_str());
 
     if (!channel.MediaAssetOnAir().Id().IsEmpty())
     {
-        // Without this converter's time point writer on purpose: the asset's time points keep their own form.
-        const SharedReferenceToJson<MediaAsset, false> converter("MediaAssetRef", "mediaAsset",
-                                                                 std::make_shared<MediaAssetToJsonConverter>(nullptr));
+        // Without a time point writer on purpose: the asset's time points keep their own form.
         stringer.Key("mediaAssetOnAir");
-        if (auto result = converter.To(channel.MediaAssetOnAir(), stringer); !result)
+        if (auto result = AppendReference(stringer, channel.MediaAssetOnAir(), nullptr); !result)
             return result;
     }
 

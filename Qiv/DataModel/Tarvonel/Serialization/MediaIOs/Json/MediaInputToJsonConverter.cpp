@@ -2,7 +2,6 @@
 
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelWriting.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaIOToJsonConverter.h>
 
 #include <memory>
 #include <utility>
@@ -38,13 +37,13 @@ Result MediaInputToJsonConverter::To(const MediaInput& channel, Stringer& string
 
 Result MediaInputToJsonConverter::AppendMediaInput(Stringer& stringer, const MediaInput& channel) const noexcept
 {
-    stringer.Key("_type").Value("MediaInput");
+    stringer.Member("_type", "MediaInput");
 
-    // Default-constructed on purpose: the common members do not use this converter's time point writer.
-    if (auto result = MediaIOToJsonConverter().AppendMediaIO(channel, stringer); !result)
+    // Without this converter's time point writer on purpose: the common members keep the default form.
+    if (auto result = Details::AppendCommon(stringer, channel); !result)
         return result;
 
-    stringer.Key("recordingStatus").Value(ToString(channel.RecordingStatus()).c_str());
+    stringer.Member("recordingStatus", ToString(channel.RecordingStatus()).c_str());
 
     if (channel.LastTimePoint() != TimePoint::Empty())
     {
@@ -56,7 +55,7 @@ Result MediaInputToJsonConverter::AppendMediaInput(Stringer& stringer, const Med
     AppendUnlessEmpty(stringer, "lastUserTimecode", channel.LastUserTimecode());
 
     if (channel.PrimaryTimecodeType() != TimecodePrimary::NotSet)
-        stringer.Key("primaryTimecodeType").Value(ToString(channel.PrimaryTimecodeType()).c_str());
+        stringer.Member("primaryTimecodeType", ToString(channel.PrimaryTimecodeType()).c_str());
 
     AppendUnlessEmpty(stringer, "remainingCapacity", channel.RemainingCapacity());
     AppendUnlessEmpty(stringer, "totalCapacity", channel.TotalCapacity());

@@ -45,15 +45,15 @@ Result MediaOutputToJsonConverter::To(const MediaOutput& channel, Stringer& stri
 // goes out with whatever they wrote.
 Result MediaOutputToJsonConverter::AppendMediaOutput(Stringer& stringer, const MediaOutput& channel) const noexcept
 {
-    stringer.Key("_type").Value("MediaOutput");
+    stringer.Member("_type", "MediaOutput");
 
-    // One for the process, with the time point writer of whoever comes first; the common members do not use it. Never
-    // destroyed, so that channels can still be written while the process ends.
+    // One for the process, which keeps the time point writer of whoever comes first. Never destroyed, so that channels
+    // can still be written while the process ends.
     static const auto& mediaIOConverter = *new MediaIOToJsonConverter(timepointConverter_);
     if (auto result = mediaIOConverter.AppendMediaIO(channel, stringer); !result)
         return result;
 
-    stringer.Key("playingStatus").Value(ToString(channel.PlayingStatus()).c_str());
+    stringer.Member("playingStatus", ToString(channel.PlayingStatus()).c_str());
 
     if (channel.SpeedOnAir().Denominator() != 0)
     {
@@ -62,7 +62,7 @@ Result MediaOutputToJsonConverter::AppendMediaOutput(Stringer& stringer, const M
     }
 
     if (channel.GlobalLoopMode() != PlayingLoopMode::Unknown)
-        stringer.Key("globalLoopMode").Value(ToString(channel.GlobalLoopMode()).c_str());
+        stringer.Member("globalLoopMode", ToString(channel.GlobalLoopMode()).c_str());
 
     AppendUnlessEmpty(stringer, "remainingTime", channel.RemainingTime());
 
@@ -77,7 +77,7 @@ Result MediaOutputToJsonConverter::AppendMediaOutput(Stringer& stringer, const M
     AppendUnlessEmpty(stringer, "userTimecodeOnAir", channel.UserTimecodeOnAir());
 
     if (channel.PrimaryTimecodeType() != TimecodePrimary::NotSet)
-        stringer.Key("primaryTimecodeType").Value(ToString(channel.PrimaryTimecodeType()).c_str());
+        stringer.Member("primaryTimecodeType", ToString(channel.PrimaryTimecodeType()).c_str());
 
     if (channel.Sequence().HasValue())
     {

@@ -18,7 +18,7 @@ Result MetadataProfileDictionaryToJsonConverter::To(const MetadataProfileDiction
                                                     Stringer& stringer) const
 {
     stringer.Object();
-    for (const auto& entry : dictionary.Values())
+    for (const auto& [name, entry] : dictionary)
     {
         if (const auto* operatorProfile = dynamic_cast<const PelOperatorMetadataProfile*>(entry.get()))
         {
@@ -34,7 +34,7 @@ Result MetadataProfileDictionaryToJsonConverter::To(const MetadataProfileDiction
                 {
                     path.resize(prefixSize);
                     path += key;
-                    stringer.Key(path.c_str()).Value(value.c_str());
+                    stringer.Member(path.c_str(), value.c_str());
                     return true;
                 });
         }

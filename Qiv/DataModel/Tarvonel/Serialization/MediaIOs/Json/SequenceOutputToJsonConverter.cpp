@@ -1,9 +1,7 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/SequenceOutputToJsonConverter.h>
 
-#include <Qiv/BusinessEntityModel/Edits/Serialization/Json/SequenceToJsonConverter.h>
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/MediaAssetToJsonConverter.h>
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/SharedReferenceToJson.h>
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/References.h>
 
 #include <memory>
 #include <utility>
@@ -11,11 +9,6 @@
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
-using BusinessEntityModel::Edits::Sequence;
-using BusinessEntityModel::Edits::Serialization::Json::SequenceToJsonConverter;
-using MediaAssets::MediaAsset;
-using MediaAssets::Serialization::Json::MediaAssetToJsonConverter;
-using MediaAssets::Serialization::Json::SharedReferenceToJson;
 using MediaAssets::Serialization::Json::TimePointToJsonObjectConverter;
 using Tarvonel::MediaIOs::SequenceOutput;
 
@@ -35,14 +28,12 @@ Result SequenceOutputToJsonConverter::To(const SequenceOutput& sequenceOutput, S
 {
     const auto append = [&]() -> Result
     {
-        stringer.Key("_type").Value("SequenceOutput");
+        stringer.Member("_type", "SequenceOutput");
 
         if (!sequenceOutput.SequenceOnAir().Id().IsEmpty())
         {
-            const SharedReferenceToJson<Sequence, false> converter("SequenceRef", "sequence",
-                                                                   std::make_shared<SequenceToJsonConverter>());
             stringer.Key("sequenceOnAir");
-            if (auto result = converter.To(sequenceOutput.SequenceOnAir(), stringer); !result)
+            if (auto result = Details::AppendReference(stringer, sequenceOutput.SequenceOnAir()); !result)
                 return result;
         }
 
@@ -70,14 +61,11 @@ Result SequenceOutputToJsonConverter::To(const SequenceOutput& sequenceOutput, S
 Result SequenceOutputToJsonConverter::AppendAssetBlockOutput(Stringer& stringer,
                                                              const SequenceOutput::AssetBlockOutput& assetBlock) const
 {
-    const SharedReferenceToJson<MediaAsset, false> converter(
-        "MediaAssetRef", "mediaAsset", std::make_shared<MediaAssetToJsonConverter>(timepointConverter_));
-
     stringer.Object();
-    stringer.Key("_type").Value("AssetBlockOnAir");
-    stringer.Key("id").Value(assetBlock.Id().Value().c_str());
+    stringer.Member("_type", "AssetBlockOnAir");
+    stringer.Member("id", assetBlock.Id().Value().c_str());
     stringer.Key("mediaAsset");
-    auto result = converter.To(assetBlock.MediaAssetRef(), stringer);
+    auto result = Details::AppendReference(stringer, assetBlock.MediaAssetRef(), timepointConverter_);
     stringer.CloseObject();
     return result;
 }

@@ -17,7 +17,7 @@ Result SpeedToJsonConverter::To(const Speed& speed, Stringer& stringer) const no
 
 Result SpeedToJsonConverter::AppendSpeed(Stringer& stringer, const Speed& speed) const noexcept
 {
-    stringer.Key("_type").Value("Speed");
+    stringer.Member("_type", "Speed");
     stringer.Key("numerator").Value(speed.Numerator());
     // Not widened on purpose: a denominator of 2^31 or more goes out negative, and the reader takes it back.
     stringer.Key("denominator").Value(static_cast<std::int32_t>(speed.Denominator()));

@@ -59,9 +59,9 @@ JsonToNodeConverter::~JsonToNodeConverter() = default;
 
 Result JsonToNodeConverter::To(const JsonObject& json, Node& node) const
 {
-    if (IsEmptyObject(json))
-        return "Node is null";
     const KnownMembers<Keys> members(json);
+    if (members.IsEmpty())
+        return "Node is null";
     if (auto result = CheckType(members.Any(Key::Type), "Node"); !result)
         return result;
     const auto id = members.Text(Key::Id);

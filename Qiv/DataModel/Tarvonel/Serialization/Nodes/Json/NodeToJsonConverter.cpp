@@ -13,7 +13,7 @@ namespace
 void AppendUnlessEmpty(Stringer& stringer, const char* key, const std::string& text)
 {
     if (!text.empty())
-        stringer.Key(key).Value(text.c_str());
+        stringer.Member(key, text.c_str());
 }
 
 } // namespace
@@ -30,8 +30,8 @@ Result NodeToJsonConverter::To(const Node& node, Stringer& stringer) const
 
 Result NodeToJsonConverter::AppendNode(Stringer& stringer, const Node& node) const
 {
-    stringer.Key("_type").Value("Node");
-    stringer.Key("id").Value(node.NodeId().Value().c_str());
+    stringer.Member("_type", "Node");
+    stringer.Member("id", node.NodeId().Value().c_str());
     if (node.SerialNumber() != Node::UndefinedSerialNumber())
         stringer.Key("serialNumber").Value(node.SerialNumber());
     AppendUnlessEmpty(stringer, "hostName", node.HostName());
