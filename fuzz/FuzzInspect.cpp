@@ -1,0 +1,209 @@
+#include <Conversions.h>
+#include <FuzzInput.h>
+
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
+
+#include <charconv>
+
+using namespace Fuzz;
+using namespace Qiv::DataModel::Tarvonel::Serialization::Json;
+
+namespace
+{
+
+constexpr std::size_t mostRemovals = 12; // keeps documents full of findings fast
+
+struct Place
+{
+    Json::Value* parent = nullptr; // null for the document itself
+    std::string key;
+    Json::Value* value;
+};
+
+/// The value that a pointer names, by the rules of RFC 6901.
+Place Find(Json::Value& document, std::string_view pointer)
+{
+    Place place{nullptr, "", &document};
+    while (!pointer.empty())
+    {
+        Check(pointer.front() == '/', "a pointer has a slash before each step", pointer);
+        pointer.remove_prefix(1);
+        place.key.clear();
+        for (; !pointer.empty() && pointer.front() != '/'; pointer.remove_prefix(1))
+        {
+            const bool isEscape = pointer.front() == '~';
+            if (isEscape)
+                pointer.remove_prefix(1);
+            Check(!isEscape || (!pointer.empty() && (pointer[0] == '0' || pointer[0] == '1')), "escapes", pointer);
+            place.key += !isEscape ? pointer.front() : pointer.front() == '0' ? '~' : '/';
+        }
+        place.parent = place.value;
+        if (place.parent->isArray())
+        {
+            Json::ArrayIndex index = 0;
+            const auto* const end = place.key.data() + place.key.size();
+            Check(std::from_chars(place.key.data(), end, index).ptr == end && index < place.parent->size(),
+                  "an index is one of the array", place.key);
+            place.value = &(*place.parent)[index];
+            continue;
+        }
+        Check(place.parent->isObject() && place.parent->isMember(place.key), "a pointer names a value", place.key);
+        place.value = &(*place.parent)[place.key];
+    }
+    return place;
+}
+
+/// The document without the value; nothing when an object would be left empty, which readers refuse.
+std::optional<Json::Value> Without(Json::Value document, const std::string& pointer)
+{
+    const auto place = Find(document, pointer);
+    if (place.parent == nullptr || place.parent->size() == 1)
+        return std::nullopt;
+    if (place.parent->isArray())
+    {
+        Json::Value removed;
+        place.parent->removeIndex(static_cast<Json::ArrayIndex>(std::stoul(place.key)), &removed);
+    }
+    else
+        place.parent->removeMember(place.key);
+    return document;
+}
+
+bool MayBeRemoved(FindingKind kind)
+{
+    return kind == FindingKind::UnknownMember || kind == FindingKind::Ignored || kind == FindingKind::WrongType;
+}
+
+void CheckForm(const std::vector<Finding>& findings, Json::Value document, std::string_view text)
+{
+    for (const auto& finding : findings)
+    {
+        static_cast<void>(Find(document, finding.pointer));
+        bool isPrintable = !finding.sentence.empty() && WellFormed(finding.sentence) == finding.sentence;
+        for (const char character : finding.sentence)
+            isPrintable &= static_cast<unsigned char>(character) >= 0x20;
+        Check(isPrintable, "a sentence is one printable line", finding.sentence);
+        Check(finding.offset >= 0 && static_cast<std::size_t>(finding.offset) <= text.size(),
+              "the offset is in the text", finding.sentence);
+        const bool hasMessage = finding.kind == FindingKind::Failure || finding.kind == FindingKind::EndsProcess;
+        Check(hasMessage == !finding.readerMessage.empty(), "a failure has a text", finding.sentence);
+    }
+}
+
+template <typename Entity>
+bool AreAlike(const Conversion<Entity>& conversion, const Entity& left, const Entity& right)
+{
+    if constexpr (std::is_same_v<Entity, std::unique_ptr<Boundary>>)
+        if (left == nullptr || right == nullptr)
+            return left == right;
+    return AreSame(left, right) && Text(conversion, left) == Text(conversion, right);
+}
+
+/// Reading from text: it never ends the process, and does all or nothing.
+template <typename Entity>
+void ExerciseText(const Conversion<Entity>& conversion, DocumentKind kind, std::string_view text, bool isFilled)
+{
+    auto merged = Target<Entity>(isFilled);
+    const auto result = MergeText(text, merged);
+    auto replaced = Target<Entity>(isFilled);
+    const auto snapshotResult = ReadSnapshotText(text, replaced);
+    Check(static_cast<bool>(result) == static_cast<bool>(snapshotResult) &&
+              result.ErrorMessage() == snapshotResult.ErrorMessage(),
+          "a snapshot is refused for the same reason", result.ErrorMessage(), snapshotResult.ErrorMessage());
+
+    const auto unchanged = Target<Entity>(isFilled);
+    Json::Value document;
+    const bool isDocument = static_cast<bool>(ParseText(text, document));
+    const auto findings = isDocument ? InspectDocument(document, kind) : std::vector<Finding>();
+    if (!isDocument || FirstFatal(findings) != nullptr || FirstFailure(findings) != nullptr)
+    {
+        Check(!result && AreAlike(conversion, merged, unchanged) && AreAlike(conversion, replaced, unchanged),
+              "a refused text changes nothing", result.ErrorMessage());
+        return;
+    }
+    auto expected = Target<Entity>(isFilled);
+    Check(conversion.read(document, expected) && result && AreAlike(conversion, merged, expected),
+          "a text is read as its document is", text, result.ErrorMessage());
+}
+
+template <typename Entity>
+void Exercise(const Conversion<Entity>& conversion, DocumentKind kind, const std::optional<Json::Value>& document,
+              std::string_view text, bool isFilled)
+{
+    ExerciseText(conversion, kind, text, isFilled);
+    if (!document)
+        return;
+    const auto findings = InspectDocument(*document, kind);
+    CheckForm(findings, *document, text);
+    if (FirstFatal(findings) != nullptr)
+        return;
+
+    const auto* const failure = FirstFailure(findings);
+    auto entity = Target<Entity>(isFilled);
+    const auto result = conversion.read(*document, entity);
+    Check(failure != nullptr ? !result && failure->readerMessage == result.ErrorMessage() : bool(result),
+          "the inspection tells what the reader says", failure != nullptr ? failure->readerMessage : "success",
+          Message(result));
+
+    auto whole = Target<Entity>(isFilled);
+    Check(Message(MergeWhole(*document, whole)) == Message(result), "whole reading gives the same result");
+    const auto unchanged = Target<Entity>(isFilled);
+    Check(AreAlike(conversion, whole, result ? entity : unchanged), "whole reading is all or nothing");
+    if (!result)
+        return;
+
+    std::size_t removals = 0;
+    for (const auto& finding : findings)
+    {
+        if (!MayBeRemoved(finding.kind) || ++removals > mostRemovals)
+            continue;
+        const auto smaller = Without(*document, finding.pointer);
+        if (!smaller)
+            continue;
+        auto other = Target<Entity>(isFilled);
+        Check(conversion.read(*smaller, other), "what is skipped does not keep the reader from success",
+              finding.pointer, finding.sentence);
+        Check(AreAlike(conversion, other, entity), "what is skipped changes nothing", finding.pointer,
+              finding.sentence);
+    }
+}
+
+} // namespace
+
+/// The inspection of any document against the reader, and reading from any text.
+///
+/// The first byte says what the document should be, the second how to parse and into what; the text follows.
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    Input input(data, size);
+    const auto kind = static_cast<DocumentKind>(input.Byte() % 6);
+    const auto flags = input.Byte();
+    const ExactCopy copy(input.Rest());
+    const auto text = copy.Text();
+    const auto document = Parse(text, static_cast<Parsing>(flags % 3));
+    const bool isFilled = (flags & 4U) != 0;
+    switch (kind)
+    {
+    case DocumentKind::MediaInput:
+        Exercise(channelConversion<MediaInput>, kind, document, text, isFilled);
+        break;
+    case DocumentKind::MediaOutput:
+        Exercise(channelConversion<MediaOutput>, kind, document, text, isFilled);
+        break;
+    case DocumentKind::Node:
+        Exercise(nodeConversion, kind, document, text, isFilled);
+        break;
+    case DocumentKind::SequenceOutput:
+        Exercise(sequenceOutputConversion, kind, document, text, isFilled);
+        break;
+    case DocumentKind::Speed:
+        Exercise(speedConversion, kind, document, text, isFilled);
+        break;
+    case DocumentKind::Boundary:
+        Exercise(boundaryConversion, kind, document, text, isFilled);
+        break;
+    }
+    return 0;
+}
