@@ -41,7 +41,8 @@ struct Member
     const char* without = nullptr;
 };
 
-constexpr const char* objectIsSkipped = "";
+/// Told from other texts by its address.
+inline constexpr char objectIsSkipped[] = "";
 
 /// The members that an entity adds to those of its base.
 struct Members
