@@ -29,13 +29,17 @@
 namespace Qiv::DataModel::Tarvonel::Serialization::Json
 {
 
-/// A copy that shares nothing that a reader could change: with clones of the metadata profiles.
+/// A copy that shares nothing that a reader could change: with clones of the metadata profiles, or of a boundary.
 template <typename Entity>
 Entity IndependentCopy(const Entity& entity)
 {
     if constexpr (std::is_same_v<Entity, BusinessEntityModel::BaseTypes::MetadataProfileDictionary>)
     {
         return entity.Clone();
+    }
+    else if constexpr (std::is_same_v<Entity, std::unique_ptr<Tarvonel::MediaIOs::Boundary>>)
+    {
+        return entity != nullptr ? entity->Clone() : nullptr;
     }
     else
     {
