@@ -12,12 +12,14 @@
 #include <functional>
 #include <limits>
 #include <locale>
+#include <map>
 #include <memory>
 #include <random>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -38,49 +40,43 @@ std::string Quoted(std::string_view text)
 /// The JSON string of a text, told slowly from the table of well-formed UTF-8 sequences.
 std::string Oracle(std::string_view text)
 {
-    using Range = std::pair<unsigned, unsigned>;
-    constexpr Range any{0x80, 0xBF};
-    static const std::vector<Range> sequences[] = {
-        {{0xC2, 0xDF}, any},           {{0xE0, 0xE0}, {0xA0, 0xBF}, any},
-        {{0xE1, 0xEC}, any, any},      {{0xED, 0xED}, {0x80, 0x9F}, any},
-        {{0xEE, 0xEF}, any, any},      {{0xF0, 0xF0}, {0x90, 0xBF}, any, any},
-        {{0xF1, 0xF3}, any, any, any}, {{0xF4, 0xF4}, {0x80, 0x8F}, any, any},
+    // Rows of ranges: lowest and highest first, second... byte.
+    static const std::vector<std::string> sequences = {"\xC2\xDF\x80\xBF",
+                                                       "\xE0\xE0\xA0\xBF\x80\xBF",
+                                                       "\xE1\xEC\x80\xBF\x80\xBF",
+                                                       "\xED\xED\x80\x9F\x80\xBF",
+                                                       "\xEE\xEF\x80\xBF\x80\xBF",
+                                                       "\xF0\xF0\x90\xBF\x80\xBF\x80\xBF",
+                                                       "\xF1\xF3\x80\xBF\x80\xBF\x80\xBF",
+                                                       "\xF4\xF4\x80\x8F\x80\xBF\x80\xBF"};
+    const auto isWithin = [](char low, char byte, char high)
+    {
+        return std::string_view(&low, 1) <= std::string_view(&byte, 1) &&
+               std::string_view(&byte, 1) <= std::string_view(&high, 1);
     };
     std::string json = "\"";
     for (std::size_t i = 0; i < text.size();)
     {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if (const auto* const letter = std::strchr("\"\"\\\\\bb\ff\nn\rr\tt", byte);
-            byte != 0 && letter != nullptr &&
-            std::string_view("\"\\\b\f\n\r\t").find(text[i]) != std::string_view::npos)
+        std::size_t longest = 1;
+        bool isWellFormed = isWithin('\0', text[i], '\x7f');
+        for (const auto& row : sequences)
         {
-            json += std::string("\\") + letter[1];
-            ++i;
+            std::size_t matched = 0;
+            while (2 * matched < row.size() && i + matched < text.size() &&
+                   isWithin(row[2 * matched], text[i + matched], row[2 * matched + 1]))
+                ++matched;
+            longest = std::max(longest, matched);
+            isWellFormed = isWellFormed || 2 * matched == row.size();
         }
-        else if (byte < 0x80)
-        {
-            char escape[8];
-            std::snprintf(escape, sizeof escape, "\\u%04x", byte);
-            json += byte < 0x20 ? std::string(escape) : std::string(1, text[i]);
-            ++i;
-        }
+        char escape[8];
+        std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(text[i]));
+        if (const auto letter = std::string_view("\"\\\b\f\n\r\t").find(text[i]); letter != std::string_view::npos)
+            json += std::string("\\") + "\"\\bfnrt"[letter];
+        else if (isWithin('\0', text[i], '\x1f'))
+            json += escape;
         else
-        {
-            std::size_t longest = 1;
-            bool isWellFormed = false;
-            for (const auto& sequence : sequences)
-            {
-                std::size_t matched = 0;
-                while (matched < sequence.size() && i + matched < text.size() &&
-                       static_cast<unsigned char>(text[i + matched]) >= sequence[matched].first &&
-                       static_cast<unsigned char>(text[i + matched]) <= sequence[matched].second)
-                    ++matched;
-                longest = std::max(longest, matched);
-                isWellFormed = isWellFormed || matched == sequence.size();
-            }
             json += isWellFormed ? std::string(text.substr(i, longest)) : "\xEF\xBF\xBD";
-            i += longest;
-        }
+        i += longest;
     }
     return json + "\"";
 }
@@ -146,35 +142,16 @@ TEST(Stringer, WritesLongTexts)
 void WriteSample(Stringer& json)
 {
     json.Object().Key("a").Value(true).Key(std::string("b\0", 2)).Array();
-    json.Value(INT32_MIN)
-        .Value(std::int32_t{0})
-        .Value(false)
-        .NullValue()
-        .Value(0.5)
-        .Value("c\0d")
-        .Object()
-        .CloseObject();
+    json.Value(INT32_MIN).Value(std::int32_t{0}).Value(false).NullValue().Value(0.5);
+    json.Value("c\0d").Object().CloseObject();
     json.Array().CloseArray().CloseArray().Key("").Object().Key("e").Value(std::string("\0", 1)).CloseObject();
     json.CloseObject();
 }
 
 const char* const compactSample = R"({"a":true,"b\u0000":[-2147483648,0,false,null,0.5,"c",{},[]],"":{"e":"\u0000"}})";
-const char* const prettySample = R"({
-  "a": true,
-  "b\u0000": [
-    -2147483648,
-    0,
-    false,
-    null,
-    0.5,
-    "c",
-    {},
-    []
-  ],
-  "": {
-    "e": "\u0000"
-  }
-})";
+const char* const prettySample =
+    "{\n  \"a\": true,\n  \"b\\u0000\": [\n    -2147483648,\n    0,\n    false,\n    null,\n    0.5,\n    \"c\",\n"
+    "    {},\n    []\n  ],\n  \"\": {\n    \"e\": \"\\u0000\"\n  }\n}";
 
 TEST(Stringer, WritesCompactAndPretty)
 {
@@ -224,57 +201,48 @@ TEST(Stringer, WritesTheShortestNumberThatReadsBack)
 
 TEST(Stringer, RefusesMisuseAndWritesNothing)
 {
-    using Operation = std::function<void(Stringer&)>;
-    const std::pair<const char*, Operation> states[] = {
+    const std::map<char, std::string> refusals = {{'t', "no object is open"},
+                                                  {'n', "nothing is open"},
+                                                  {'k', "the open object awaits a key"},
+                                                  {'v', "the last key awaits its value"},
+                                                  {'a', "the innermost open level is an array"},
+                                                  {'o', "the innermost open level is an object"}};
+    const std::pair<const char*, std::function<void(Stringer&)>> states[] = {
         {"", [](Stringer&) {}},
         {"{", [](Stringer& json) { json.Object(); }},
         {"{\"k\":", [](Stringer& json) { json.Object().Key("k"); }},
-        {"[", [](Stringer& json) { json.Array(); }},
-    };
-    const char* const awaitsKey = "the open object awaits a key";
-    const char* const awaitsValue = "the last key awaits its value";
-    const char* const inArray = "the innermost open level is an array";
-    const char* const inObject = "the innermost open level is an object";
-    const struct
-    {
-        const char* name;
-        Operation run;
-        const char* refusals[4]; // in each state
-    } rows[] = {
-        {"Key", [](Stringer& json) { json.Key("x"); }, {"no object is open", nullptr, awaitsValue, inArray}},
-        {"CloseObject", [](Stringer& json) { json.CloseObject(); }, {"nothing is open", nullptr, awaitsValue, inArray}},
-        {"CloseArray", [](Stringer& json) { json.CloseArray(); }, {"nothing is open", inObject, inObject, nullptr}},
-        {"Object", [](Stringer& json) { json.Object(); }, {nullptr, awaitsKey, nullptr, nullptr}},
-        {"Array", [](Stringer& json) { json.Array(); }, {nullptr, awaitsKey, nullptr, nullptr}},
-        {"Value", [](Stringer& json) { json.Value("x"); }, {nullptr, awaitsKey, nullptr, nullptr}},
-        {"Value", [](Stringer& json) { json.Value(true); }, {nullptr, awaitsKey, nullptr, nullptr}},
-        {"Value", [](Stringer& json) { json.Value(1); }, {nullptr, awaitsKey, nullptr, nullptr}},
-        {"Value", [](Stringer& json) { json.Value(1.5); }, {nullptr, awaitsKey, nullptr, nullptr}},
-        {"NullValue", [](Stringer& json) { json.NullValue(); }, {nullptr, awaitsKey, nullptr, nullptr}},
-    };
-    for (const auto& row : rows)
+        {"[", [](Stringer& json) { json.Array(); }}};
+    const std::tuple<std::string, std::string, std::function<void(Stringer&)>> rows[] = {
+        {"Key", "t-va", [](Stringer& json) { json.Key("x"); }},
+        {"CloseObject", "n-va", [](Stringer& json) { json.CloseObject(); }},
+        {"CloseArray", "noo-", [](Stringer& json) { json.CloseArray(); }},
+        {"Object", "-k--", [](Stringer& json) { json.Object(); }},
+        {"Array", "-k--", [](Stringer& json) { json.Array(); }},
+        {"Value", "-k--", [](Stringer& json) { json.Value("x"); }},
+        {"Value", "-k--", [](Stringer& json) { json.Value(true); }},
+        {"Value", "-k--", [](Stringer& json) { json.Value(1); }},
+        {"Value", "-k--", [](Stringer& json) { json.Value(1.5); }},
+        {"NullValue", "-k--", [](Stringer& json) { json.NullValue(); }}};
+    for (const auto& [name, inEachState, run] : rows)
     {
         for (std::size_t i = 0; i < std::size(states); ++i)
         {
             Stringer json;
             states[i].second(json);
-            std::string refusal;
+            std::string thrown;
             try
             {
-                row.run(json);
+                run(json);
             }
             catch (const InvalidStringerState& error)
             {
-                refusal = error.what();
-                EXPECT_EQ(json.ToString(), states[i].first) << refusal;
+                thrown = error.what();
+                EXPECT_EQ(json.ToString(), states[i].first) << thrown;
             }
-            const auto* const expected = row.refusals[i];
-            EXPECT_EQ(refusal, expected ? std::string("Stringer::") + row.name + ": " + expected : "")
-                << row.name << " after " << states[i].first;
+            const auto refusal = refusals.find(inEachState[i]);
+            EXPECT_EQ(thrown, refusal == refusals.end() ? "" : "Stringer::" + name + ": " + refusal->second);
         }
     }
-    static_assert(std::is_base_of_v<std::logic_error, InvalidStringerState>);
-
     const char* const null = nullptr;
     Stringer json;
     EXPECT_THROW(json.Object().Key(null), std::invalid_argument);

@@ -38,17 +38,9 @@ public:
     /// A number of any size, often at a limit.
     std::int64_t Number64()
     {
-        switch (Below(4))
-        {
-        case 0:
-            return INT64_MIN + Below(3);
-        case 1:
-            return INT64_MAX - Below(3);
-        case 2:
-            return std::int64_t{Below(3)} - 1;
-        default:
-            return static_cast<std::int64_t>(random_() >> Below(64));
-        }
+        const std::int64_t numbers[] = {INT64_MIN + Below(3), INT64_MAX - Below(3), std::int64_t{Below(3)} - 1,
+                                        static_cast<std::int64_t>(random_() >> Below(64))};
+        return numbers[Below(4)];
     }
     std::int32_t Number32() { return static_cast<std::int32_t>(Number64()); }
 

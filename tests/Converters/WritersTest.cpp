@@ -20,43 +20,27 @@ namespace
 
 using TimePoints::Rate;
 
-template <typename Converter, typename Base>
-constexpr bool isWellFormed =
-    std::is_base_of_v<Base, Converter>&& std::is_default_constructible_v<Converter>&& std::is_copy_constructible_v<
-        Converter>&& std::is_move_constructible_v<Converter>&& std::has_virtual_destructor_v<Converter>;
-template <typename Entity, typename Reader, typename Writer>
-constexpr bool arePair =
-    isWellFormed<Reader, FromJsonConverter<Entity>>&& isWellFormed<Writer, ToJsonConverter<Entity>>;
-static_assert(arePair<MediaIO, JsonToMediaIOConverter, MediaIOToJsonConverter>);
-static_assert(arePair<Speed, JsonToSpeedConverter, SpeedToJsonConverter>);
-static_assert(isWellFormed<JsonToBoundaryConverter, FromJsonConverter<std::unique_ptr<Boundary>>>);
-static_assert(isWellFormed<BoundaryToJsonConverter, ToJsonConverter<Boundary>>);
-static_assert(arePair<MediaInput, JsonToMediaInputConverter, MediaInputToJsonConverter>);
-static_assert(arePair<MediaOutput, JsonToMediaOutputConverter, MediaOutputToJsonConverter>);
-static_assert(arePair<SequenceOutput, JsonToSequenceOutputConverter, SequenceOutputToJsonConverter>);
-static_assert(arePair<MetadataProfileDictionary, JsonToMetadataProfileDictionaryConverter,
+template <typename Base, typename Converter>
+constexpr bool isWellFormed = std::is_base_of_v<Base, Converter>&& std::is_default_constructible_v<Converter>&&
+    std::is_copy_constructible_v<Converter>&& std::is_move_constructible_v<Converter>;
+/// A reader and a writer, which both declare whether they let exceptions out.
+template <bool areNoexcept, typename Entity, typename Reader, typename Writer, typename Written = Entity>
+constexpr bool arePair = isWellFormed<FromJsonConverter<Entity>, Reader>&&
+                             isWellFormed<ToJsonConverter<Written>, Writer>&& noexcept(std::declval<Reader&>().To(
+                                 std::declval<const JsonObject&>(), std::declval<Entity&>())) ==
+                         areNoexcept&& noexcept(std::declval<Writer&>().To(std::declval<const Written&>(),
+                                                                           std::declval<Stringer&>())) == areNoexcept;
+static_assert(arePair<false, MediaIO, JsonToMediaIOConverter, MediaIOToJsonConverter>);
+static_assert(arePair<true, Speed, JsonToSpeedConverter, SpeedToJsonConverter>);
+static_assert(arePair<true, std::unique_ptr<Boundary>, JsonToBoundaryConverter, BoundaryToJsonConverter, Boundary>);
+static_assert(arePair<true, MediaInput, JsonToMediaInputConverter, MediaInputToJsonConverter>);
+static_assert(arePair<true, MediaOutput, JsonToMediaOutputConverter, MediaOutputToJsonConverter>);
+static_assert(arePair<false, SequenceOutput, JsonToSequenceOutputConverter, SequenceOutputToJsonConverter>);
+static_assert(arePair<false, MetadataProfileDictionary, JsonToMetadataProfileDictionaryConverter,
                       MetadataProfileDictionaryToJsonConverter>);
-static_assert(
-    arePair<PelOperatorMetadataProfile, JsonToPelOperatorMetaDataConverter, PelOperatorMetadataProfileToJsonConverter>);
-static_assert(arePair<Node, JsonToNodeConverter, NodeToJsonConverter>);
-
-// These may not let an exception out; the others may.
-template <typename Reader, typename Entity>
-constexpr bool readsNoexcept = noexcept(std::declval<const Reader&>().To(std::declval<const JsonObject&>(),
-                                                                         std::declval<Entity&>()));
-template <typename Writer, typename Entity>
-constexpr bool writesNoexcept = noexcept(std::declval<const Writer&>().To(std::declval<const Entity&>(),
-                                                                          std::declval<Stringer&>()));
-static_assert(readsNoexcept<JsonToSpeedConverter, Speed> && writesNoexcept<SpeedToJsonConverter, Speed>);
-static_assert(readsNoexcept<JsonToBoundaryConverter, std::unique_ptr<Boundary>>);
-static_assert(writesNoexcept<BoundaryToJsonConverter, Boundary>);
-static_assert(readsNoexcept<JsonToMediaInputConverter, MediaInput>);
-static_assert(writesNoexcept<MediaInputToJsonConverter, MediaInput>);
-static_assert(readsNoexcept<JsonToMediaOutputConverter, MediaOutput>);
-static_assert(writesNoexcept<MediaOutputToJsonConverter, MediaOutput>);
-static_assert(!readsNoexcept<JsonToMediaIOConverter, MediaIO> && !writesNoexcept<MediaIOToJsonConverter, MediaIO>);
-static_assert(!readsNoexcept<JsonToNodeConverter, Node> &&
-              !readsNoexcept<JsonToSequenceOutputConverter, SequenceOutput>);
+static_assert(arePair<false, PelOperatorMetadataProfile, JsonToPelOperatorMetaDataConverter,
+                      PelOperatorMetadataProfileToJsonConverter>);
+static_assert(arePair<false, Node, JsonToNodeConverter, NodeToJsonConverter>);
 
 SharedReference<MediaAsset> MakeAsset()
 {
@@ -280,6 +264,7 @@ struct MarkingWriter : ToJsonConverter<TimePoint>
     Result result;
 };
 
+/// `text` with a mark wherever the standard form stands.
 std::string Marked(std::string text, const std::string& standard, const std::string& mark)
 {
     for (auto position = text.find(standard); position != std::string::npos; position = text.find(standard))
@@ -326,15 +311,6 @@ TEST(Writers, CloseWhatTheyOpenedWhenANestedWriterFails)
                                                               std::make_shared<MediaAssetToJsonConverter>(writer));
     EXPECT_EQ(Written(MakeAsset(), references), reference + failure);
     EXPECT_EQ(Written(MakeSequenceOutput(), SequenceOutputToJsonConverter(writer)), sequence + failure);
-
-    auto nextFails = MakeSequenceOutput();
-    nextFails.NextAssetBlockOnAir(nextFails.AssetBlockOnAir());
-    nextFails.AssetBlockOnAir(SequenceOutput::AssetBlockOutput());
-    const auto text = Written(nextFails, SequenceOutputToJsonConverter(writer));
-    EXPECT_NE(text.find(R"("nextAssetBlockOnAir":{"_type":"AssetBlockOnAir","id":"b1","mediaAsset":)" + reference +
-                        "}}" + failure),
-              std::string::npos)
-        << text;
 
     // A channel and a boundary do not look at these failures.
     EXPECT_EQ(Written(BoundaryAbsolute(TimePoint(5)), BoundaryToJsonConverter(writer)),
