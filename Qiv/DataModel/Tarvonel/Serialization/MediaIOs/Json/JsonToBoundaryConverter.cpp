@@ -52,7 +52,8 @@ Result ReadAbsolute(const BoundaryMembers& members, std::unique_ptr<Boundary>& b
     return {};
 }
 
-Result ReadRelative(const BoundaryMembers& members, std::unique_ptr<Boundary>& boundary)
+// Not inline, so that the terminate handler still finds the exception and its text.
+[[gnu::noinline]] Result ReadRelative(const BoundaryMembers& members, std::unique_ptr<Boundary>& boundary)
 {
     auto relative = std::make_unique<BoundaryRelative>(BoundaryOrigin::RelativeToCorrespondingMediaBoundary, 0);
     auto& target = *relative;
