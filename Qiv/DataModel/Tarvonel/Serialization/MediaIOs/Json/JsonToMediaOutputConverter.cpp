@@ -32,8 +32,8 @@ namespace
 
 // Reads a number as `std::stoll` does: leading blanks and a sign are accepted, and what follows the digits is ignored.
 // Throws what it throws, "stoll", when there is no number or when 64 bits can't hold it. That ends the process, since
-// the caller is declared not to throw. Kept: callers rely on a broken time point on air never going unnoticed. Not inline,
-// so that the terminate handler still finds the exception and its text.
+// the caller is declared not to throw. Kept: callers rely on a broken time point on air never going unnoticed. Not
+// inline, so that the terminate handler still finds the exception and its text.
 [[gnu::noinline]] std::int64_t LeadingNumber(std::string_view text)
 {
     std::int64_t number = 0;
