@@ -306,7 +306,7 @@ TEST(InspectDocument, NamesKindPlaceAndReadersText)
          "ends-process /origin: -> Bad origin for BoundaryRelative"},
         {R"({"_type": "BoundaryRelative", "origin": "absolute", "offset": "5"})",
          "invalid-value /origin:; wrong-type /offset:"},
-        {R"({"_type": "MediaInput", "metadata": {"a": "1", "a.b": 1, "qiv.peloperatorX.y": "z", "qiv.x": "y",
+        {R"({"_type": "MediaInput", "metadata": {"a": "1", "a.b": 1, "qiv.peloperatorX.y": "z", "qiv.peloperatorX": "y",
              "qiv.peloperator.serverId": 15, "qiv.peloperator.index": "1"}})",
          "invalid-value /metadata/qiv.peloperator.serverId:; wrong-type /metadata/qiv.peloperator.index:; "
          "unknown-member /metadata/a:; wrong-type /metadata/a.b:; unknown-member /metadata/qiv.peloperatorX.y:"},
