@@ -50,24 +50,54 @@ T Load(const char* text) noexcept
     return value;
 }
 
-// Copies a text that needs no escape; returns false, with part of it copied, when it needs one. Copies words, the last
-// of which overlaps the one before it.
-bool CopyPlain(char* to, const char* from, std::size_t size) noexcept
+#ifdef __SSE2__
+using Block [[gnu::vector_size(16)]] = signed char;
+
+// The same for a block: bytes that are not zero stand for those to handle. Non-ASCII bytes are negative.
+Block BytesToHandle(Block block) noexcept
 {
-    if (size >= wordSize)
+    return (block < 0x20) | (block == '"') | (block == '\\');
+}
+
+bool IsZero(Block block) noexcept
+{
+    std::uint64_t words[2];
+    std::memcpy(words, &block, sizeof words);
+    return (words[0] | words[1]) == 0;
+}
+#endif
+
+bool IsZero(std::uint64_t word) noexcept
+{
+    return word == 0;
+}
+
+// CopyPlain for a text of at least one unit. The last unit overlaps the one before it.
+template <typename Unit>
+inline bool CopyPlainUnits(char* to, const char* from, std::size_t size) noexcept
+{
+    const auto last = size - sizeof(Unit);
+    const auto lastUnit = Load<Unit>(from + last);
+    auto found = BytesToHandle(lastUnit);
+    for (std::size_t i = 0; i < last; i += sizeof(Unit))
     {
-        const auto last = size - wordSize;
-        const auto lastWord = Load<std::uint64_t>(from + last);
-        auto found = BytesToHandle(lastWord);
-        for (std::size_t i = 0; i < last; i += wordSize)
-        {
-            const auto word = Load<std::uint64_t>(from + i);
-            std::memcpy(to + i, &word, wordSize);
-            found |= BytesToHandle(word);
-        }
-        std::memcpy(to + last, &lastWord, wordSize);
-        return found == 0;
+        const auto unit = Load<Unit>(from + i);
+        std::memcpy(to + i, &unit, sizeof unit);
+        found |= BytesToHandle(unit);
     }
+    std::memcpy(to + last, &lastUnit, sizeof lastUnit);
+    return IsZero(found);
+}
+
+// Copies a text that needs no escape; returns false, with part of it copied, when it needs one.
+inline bool CopyPlain(char* to, const char* from, std::size_t size) noexcept
+{
+#ifdef __SSE2__
+    if (size >= sizeof(Block))
+        return CopyPlainUnits<Block>(to, from, size);
+#endif
+    if (size >= wordSize)
+        return CopyPlainUnits<std::uint64_t>(to, from, size);
     if (size >= wordSize / 2)
     {
         const auto last = size - wordSize / 2;
@@ -278,7 +308,7 @@ char* Stringer::TextBuffer::QuoteWithEscapes(char* end, std::string_view text)
 
 // -- OuterLevels
 
-void Stringer::OuterLevels::Push(bool isObject)
+inline void Stringer::OuterLevels::Push(bool isObject)
 {
     if (size_ != 0 && size_ % kindsPerWord == 0)
         rest_.push_back(kinds_);
@@ -286,7 +316,7 @@ void Stringer::OuterLevels::Push(bool isObject)
     ++size_;
 }
 
-bool Stringer::OuterLevels::Pop() noexcept
+inline bool Stringer::OuterLevels::Pop() noexcept
 {
     const bool isObject = (kinds_ & 1U) != 0;
     kinds_ >>= 1U;
@@ -406,7 +436,7 @@ inline void Stringer::ThrowIfKeyIsInvalid() const
         ThrowState("Key", "the last key awaits its value");
 }
 
-void Stringer::ThrowIfInconsistent(const char* operation, bool closesObject) const
+inline void Stringer::ThrowIfInconsistent(const char* operation, bool closesObject) const
 {
     const auto& level = CurrentLevelState();
     if (Depth() == 0)
@@ -453,7 +483,7 @@ inline void Stringer::EndItem(char* end, bool needsValue)
         WriteThrough();
 }
 
-Stringer& Stringer::Open(const char* operation, bool isObject)
+inline Stringer& Stringer::Open(const char* operation, bool isObject)
 {
     ThrowIfInvalidState(operation);
     auto* end = BeginItem(1);
@@ -466,7 +496,7 @@ Stringer& Stringer::Open(const char* operation, bool isObject)
     return *this;
 }
 
-Stringer& Stringer::Close(const char* operation, bool isObject)
+inline Stringer& Stringer::Close(const char* operation, bool isObject)
 {
     ThrowIfInconsistent(operation, isObject);
     auto* end = pending_.Reserve(2 + 2 * Depth());
