@@ -576,15 +576,43 @@ Stringer& Stringer::Value(std::string_view value)
     return *this;
 }
 
-Stringer& Stringer::Member(std::string_view key, std::string_view value)
+// Needs room for the quoted key.
+inline char* Stringer::ComposeMember(char* end, std::string_view key, std::string_view value)
 {
-    ThrowIfKeyIsInvalid();
-    auto* end = pending_.Quote(BeginItem(TextBuffer::QuotedRoom(key)), key);
+    end = pending_.Quote(end, key);
     *end++ = ':';
     if (prettyPrint_)
         *end++ = ' ';
-    end = pending_.Reserve(end, TextBuffer::QuotedRoom(value));
-    EndItem(pending_.Quote(end, value), false);
+    return pending_.Quote(pending_.Reserve(end, TextBuffer::QuotedRoom(value)), value);
+}
+
+Stringer& Stringer::Member(std::string_view key, std::string_view value)
+{
+    ThrowIfKeyIsInvalid();
+    EndItem(ComposeMember(BeginItem(TextBuffer::QuotedRoom(key)), key, value), false);
+    return *this;
+}
+
+Stringer& Stringer::ObjectOf(std::initializer_list<std::pair<std::string_view, std::string_view>> members)
+{
+    ThrowIfInvalidState("ObjectOf");
+    const auto indentation = prettyPrint_ ? 2 + 2 * Depth() : 0;
+    auto* end = BeginItem(1);
+    *end++ = '{';
+    for (const auto& [key, value] : members)
+    {
+        end = pending_.Reserve(end, TextBuffer::QuotedRoom(key) + indentation + 2);
+        if (end[-1] != '{')
+            *end++ = ',';
+        if (prettyPrint_)
+            end = NewLine(end, Depth() + 1);
+        end = ComposeMember(end, key, value);
+    }
+    end = pending_.Reserve(end, indentation + 2);
+    if (prettyPrint_ && members.size() != 0)
+        end = NewLine(end, Depth());
+    *end++ = '}';
+    EndItem(end, false);
     return *this;
 }
 
@@ -656,7 +684,7 @@ Stringer::InternalObjectScope Stringer::ObjectScope()
 
 Stringer::InternalObjectScope Stringer::ObjectScope(const char* key)
 {
-    return InternalObjectScope(Key(key));
+    return InternalObjectScope(key == nullptr ? *this : Key(key));
 }
 
 Stringer::InternalArrayScope Stringer::ArrayScope()
@@ -666,7 +694,7 @@ Stringer::InternalArrayScope Stringer::ArrayScope()
 
 Stringer::InternalArrayScope Stringer::ArrayScope(const char* key)
 {
-    return InternalArrayScope(Key(key));
+    return InternalArrayScope(key == nullptr ? *this : Key(key));
 }
 
 } // namespace Qiv::Common::Serialization::Json

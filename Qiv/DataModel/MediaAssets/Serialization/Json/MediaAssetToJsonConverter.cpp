@@ -23,13 +23,13 @@ Result AppendMembers(const MediaAsset& mediaAsset, const ToJsonConverter<TimePoi
     if (mediaAsset.InPoint() != TimePoint::Empty())
     {
         stringer.Key("inPoint");
-        if (auto result = timePoints.To(mediaAsset.InPoint(), stringer); !result)
+        if (auto result = AppendNested(stringer, timePoints, mediaAsset.InPoint()); !result)
             return result;
     }
     if (mediaAsset.OutPoint() != TimePoint::Empty())
     {
         stringer.Key("outPoint");
-        if (auto result = timePoints.To(mediaAsset.OutPoint(), stringer); !result)
+        if (auto result = AppendNested(stringer, timePoints, mediaAsset.OutPoint()); !result)
             return result;
     }
     return {};

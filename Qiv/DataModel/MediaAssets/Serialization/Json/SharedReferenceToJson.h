@@ -55,7 +55,7 @@ public:
         if (reference.Pointer() == nullptr || jsonConverter_ == nullptr)
             return {};
         stringer.Key(embeddedProperty_.c_str());
-        return jsonConverter_->To(*reference.Pointer(), stringer);
+        return AppendNested(stringer, *jsonConverter_, *reference.Pointer());
     }
 
 private:

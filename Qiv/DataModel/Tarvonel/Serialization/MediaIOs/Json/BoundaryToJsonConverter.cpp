@@ -14,13 +14,11 @@ using Tarvonel::MediaIOs::BoundaryOrigin;
 using Tarvonel::MediaIOs::BoundaryRelative;
 using TimePoints::TimePoint;
 
-BoundaryToJsonConverter::BoundaryToJsonConverter()
-    : BoundaryToJsonConverter(std::make_shared<TimePointToJsonObjectConverter>())
-{
-}
+BoundaryToJsonConverter::BoundaryToJsonConverter() : BoundaryToJsonConverter(nullptr) {}
 
 BoundaryToJsonConverter::BoundaryToJsonConverter(SharedTimePointWriter timepointConverter)
-    : timepointConverter_(std::move(timepointConverter))
+    : timepointConverter_(timepointConverter ? std::move(timepointConverter)
+                                             : std::make_shared<TimePointToJsonObjectConverter>())
 {
 }
 
@@ -51,7 +49,8 @@ Result BoundaryToJsonConverter::Append(Stringer& stringer, const BoundaryAbsolut
     if (boundary.Timepoint() != TimePoint::Empty())
     {
         stringer.Key("timepoint");
-        static_cast<void>(timepointConverter_->To(boundary.Timepoint(), stringer)); // must not fail the boundary
+        // Dropped on purpose: it must not fail the boundary.
+        static_cast<void>(AppendNested(stringer, *timepointConverter_, boundary.Timepoint()));
     }
     return {};
 }

@@ -18,7 +18,7 @@ class QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT BoundaryToJsonConverter
 public:
     /// Writes time points with a `TimePointToJsonObjectConverter` of its own.
     BoundaryToJsonConverter();
-    /// Writes time points with `timepointConverter`, which must not be empty and must not throw.
+    /// Writes time points with `timepointConverter`, which must not throw; an empty pointer stands for the default one.
     explicit BoundaryToJsonConverter(SharedTimePointWriter timepointConverter);
     BoundaryToJsonConverter(const BoundaryToJsonConverter&) = default;
     BoundaryToJsonConverter& operator=(const BoundaryToJsonConverter&) = default;

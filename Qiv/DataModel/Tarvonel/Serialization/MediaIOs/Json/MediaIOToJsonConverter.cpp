@@ -18,13 +18,11 @@ using Tarvonel::MediaIOs::MediaInput;
 using Tarvonel::MediaIOs::MediaIO;
 using Tarvonel::MediaIOs::MediaOutput;
 
-MediaIOToJsonConverter::MediaIOToJsonConverter()
-    : MediaIOToJsonConverter(std::make_shared<TimePointToJsonObjectConverter>())
-{
-}
+MediaIOToJsonConverter::MediaIOToJsonConverter() : MediaIOToJsonConverter(nullptr) {}
 
 MediaIOToJsonConverter::MediaIOToJsonConverter(SharedTimePointWriter timepointConverter)
-    : timepointConverter_(std::move(timepointConverter))
+    : timepointConverter_(timepointConverter ? std::move(timepointConverter)
+                                             : std::make_shared<TimePointToJsonObjectConverter>())
 {
 }
 

@@ -18,8 +18,8 @@ class QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT MediaIOToJsonConverter
 public:
     /// Writes time points with a `TimePointToJsonObjectConverter` of its own.
     MediaIOToJsonConverter();
-    /// Writes the kinds' time points with `timepointConverter`, which must not be empty and must not throw. The time
-    /// points of an embedded "mediaAssetOnAir" are always written by the media asset writer's own.
+    /// Writes the kinds' time points with `timepointConverter`, which must not throw; an empty pointer stands for the
+    /// default writer. The time points of an embedded "mediaAssetOnAir" are always written in the default form.
     explicit MediaIOToJsonConverter(SharedTimePointWriter timepointConverter);
     MediaIOToJsonConverter(const MediaIOToJsonConverter&) = default;
     MediaIOToJsonConverter& operator=(const MediaIOToJsonConverter&) = default;

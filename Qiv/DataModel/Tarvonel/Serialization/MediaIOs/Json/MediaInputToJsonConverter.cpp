@@ -15,13 +15,11 @@ using MediaAssets::Serialization::Json::TimePointToJsonObjectConverter;
 using Tarvonel::MediaIOs::MediaInput;
 using TimePoints::TimePoint;
 
-MediaInputToJsonConverter::MediaInputToJsonConverter()
-    : MediaInputToJsonConverter(std::make_shared<TimePointToJsonObjectConverter>())
-{
-}
+MediaInputToJsonConverter::MediaInputToJsonConverter() : MediaInputToJsonConverter(nullptr) {}
 
 MediaInputToJsonConverter::MediaInputToJsonConverter(SharedTimePointWriter timepointConverter)
-    : timepointConverter_(std::move(timepointConverter))
+    : timepointConverter_(timepointConverter ? std::move(timepointConverter)
+                                             : std::make_shared<TimePointToJsonObjectConverter>())
 {
 }
 
@@ -48,7 +46,8 @@ Result MediaInputToJsonConverter::AppendMediaInput(Stringer& stringer, const Med
     if (channel.LastTimePoint() != TimePoint::Empty())
     {
         stringer.Key("lastTimePoint");
-        static_cast<void>(timepointConverter_->To(channel.LastTimePoint(), stringer)); // must not fail the channel
+        // Dropped on purpose: it must not fail the channel.
+        static_cast<void>(AppendNested(stringer, *timepointConverter_, channel.LastTimePoint()));
     }
 
     AppendUnlessEmpty(stringer, "lastTodTimecode", channel.LastTodTimecode());

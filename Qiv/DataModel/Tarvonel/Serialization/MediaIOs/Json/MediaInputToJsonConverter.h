@@ -22,7 +22,7 @@ class QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT MediaInputToJsonConverter
 public:
     /// Writes time points with a `TimePointToJsonObjectConverter` of its own.
     MediaInputToJsonConverter();
-    /// Writes time points with `timepointConverter`, which must not be empty and must not throw.
+    /// Writes time points with `timepointConverter`, which must not throw; an empty pointer stands for the default one.
     explicit MediaInputToJsonConverter(SharedTimePointWriter timepointConverter);
     MediaInputToJsonConverter(const MediaInputToJsonConverter&) = default;
     MediaInputToJsonConverter& operator=(const MediaInputToJsonConverter&) = default;

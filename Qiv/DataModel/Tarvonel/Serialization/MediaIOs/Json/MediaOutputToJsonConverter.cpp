@@ -21,13 +21,11 @@ using Tarvonel::MediaIOs::MediaOutput;
 using Tarvonel::MediaIOs::PlayingLoopMode;
 using TimePoints::TimePoint;
 
-MediaOutputToJsonConverter::MediaOutputToJsonConverter()
-    : MediaOutputToJsonConverter(std::make_shared<TimePointToJsonObjectConverter>())
-{
-}
+MediaOutputToJsonConverter::MediaOutputToJsonConverter() : MediaOutputToJsonConverter(nullptr) {}
 
 MediaOutputToJsonConverter::MediaOutputToJsonConverter(SharedTimePointWriter timepointConverter)
-    : timepointConverter_(std::move(timepointConverter))
+    : timepointConverter_(timepointConverter ? std::move(timepointConverter)
+                                             : std::make_shared<TimePointToJsonObjectConverter>())
 {
 }
 

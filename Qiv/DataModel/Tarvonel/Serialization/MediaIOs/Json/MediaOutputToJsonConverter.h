@@ -19,8 +19,9 @@ class QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT MediaOutputToJsonConverter
 public:
     /// Writes time points with a `TimePointToJsonObjectConverter` of its own.
     MediaOutputToJsonConverter();
-    /// Writes the time points of "sequence" and "inBoundary" with `timepointConverter`, which must not be empty and
-    /// must not throw; those of "outBoundary" and "currentTimePointOnAir" are always written in the default form.
+    /// Writes the time points of "sequence" and "inBoundary" with `timepointConverter`, which must not throw
+    /// (an empty pointer stands for the default writer); those of "outBoundary" and "currentTimePointOnAir" are always
+    /// written in the default form.
     explicit MediaOutputToJsonConverter(SharedTimePointWriter timepointConverter);
     MediaOutputToJsonConverter(const MediaOutputToJsonConverter&) = default;
     MediaOutputToJsonConverter& operator=(const MediaOutputToJsonConverter&) = default;

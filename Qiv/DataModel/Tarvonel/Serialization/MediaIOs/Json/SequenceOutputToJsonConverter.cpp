@@ -12,13 +12,11 @@ namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 using MediaAssets::Serialization::Json::TimePointToJsonObjectConverter;
 using Tarvonel::MediaIOs::SequenceOutput;
 
-SequenceOutputToJsonConverter::SequenceOutputToJsonConverter()
-    : SequenceOutputToJsonConverter(std::make_shared<TimePointToJsonObjectConverter>())
-{
-}
+SequenceOutputToJsonConverter::SequenceOutputToJsonConverter() : SequenceOutputToJsonConverter(nullptr) {}
 
 SequenceOutputToJsonConverter::SequenceOutputToJsonConverter(SharedTimePointWriter timepointConverter)
-    : timepointConverter_(std::move(timepointConverter))
+    : timepointConverter_(timepointConverter ? std::move(timepointConverter)
+                                             : std::make_shared<TimePointToJsonObjectConverter>())
 {
 }
 
