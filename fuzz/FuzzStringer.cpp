@@ -240,7 +240,7 @@ void Pair::Step(Input& input)
             model.Key(text);
     };
 
-    switch (input.Byte() % 24)
+    switch (input.Byte() % 25)
     {
     case 0:
     case 1:
@@ -340,10 +340,22 @@ void Pair::Step(Input& input)
     case 22:
         CheckText();
         break;
+    case 23:
+    {
+        const ExactCopy name(input.Text());
+        const ExactCopy text(input.Text());
+        if (Run(model.TakesKey(), [&] { writer.Member(name.Text(), text.Text()); }))
+        {
+            model.Key(name.Text());
+            model.Value(Quoted(text.Text()));
+        }
+        break;
+    }
     default:
         try
         {
-            writer.Key(static_cast<const char*>(nullptr));
+            static_cast<void>(input.Byte() % 2 != 0 ? writer.Key(static_cast<const char*>(nullptr))
+                                                    : writer.Member("key", static_cast<const char*>(nullptr)));
             Check(false, "a null pointer is no text");
         }
         catch (const std::invalid_argument&)
