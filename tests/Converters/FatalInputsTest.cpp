@@ -28,7 +28,9 @@ void ReadFatally(const std::string& text)
         {
             try
             {
-                std::rethrow_exception(std::current_exception());
+                if (const auto exception = std::current_exception())
+                    std::rethrow_exception(exception);
+                std::fputs("terminated without exception", stderr);
             }
             catch (const std::exception& error)
             {
