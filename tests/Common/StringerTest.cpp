@@ -1,9 +1,11 @@
 #include <Qiv/Common/Serialization/Json/InvalidStringerState.h>
+#include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
 #include <Qiv/Common/Serialization/Json/Stringer.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -167,6 +169,43 @@ TEST(Stringer, WritesCompactAndPretty)
     EXPECT_EQ(Stringer().ToString(), "");
 }
 
+TEST(Stringer, WritesAnObjectOfTextsAsMemberByMember)
+{
+    const std::string_view texts[] = {"", "x", "a\n\0\xFF", "16 bytes and more"};
+    for (const bool isPretty : {false, true})
+    {
+        auto whole = isPretty ? Stringer::PrettyStringer() : Stringer();
+        auto single = whole;
+        for (int depth = 0; depth < 3; ++depth)
+        {
+            whole.ObjectOf({}).Array();
+            single.Object().CloseObject().Array();
+            for (const auto text : texts)
+            {
+                whole.ObjectOf({{text, text}, {"k", text}}).ObjectOf({{"k", "v"}});
+                single.Object().Key(text).Value(text).Key("k").Value(text).CloseObject();
+                single.Object().Key("k").Value("v").CloseObject();
+            }
+        }
+        EXPECT_EQ(whole.CloseArray().ToString(), single.CloseArray().ToString());
+    }
+}
+
+TEST(Stringer, WritesNanosecondsOfAnySize)
+{
+    std::mt19937_64 random(1);
+    for (int i = 0; i < 10000; ++i)
+    {
+        auto number = static_cast<std::int64_t>(random()) >> (i % 64);
+        if (i < 4)
+            number =
+                std::array<std::int64_t, 4>{INT64_MIN, INT64_MAX, 100000000, 99999999}[static_cast<std::size_t>(i)];
+        Stringer json;
+        AppendNanosecondsObject(json, "Duration", number);
+        ASSERT_EQ(json.ToString(), R"({"_type":"Duration","value":")" + std::to_string(number) + "\"}");
+    }
+}
+
 TEST(Stringer, WritesTheShortestNumberThatReadsBack)
 {
     const std::pair<double, const char*> rows[] = {{0.0, "0"},
@@ -218,6 +257,10 @@ TEST(Stringer, RefusesMisuseAndWritesNothing)
         {"CloseArray", "noo-", [](Stringer& json) { json.CloseArray(); }},
         {"Object", "-k--", [](Stringer& json) { json.Object(); }},
         {"Array", "-k--", [](Stringer& json) { json.Array(); }},
+        {"ObjectOf", "-k--",
+         [](Stringer& json) {
+             json.ObjectOf({{"k", "x"}});
+         }},
         {"Value", "-k--", [](Stringer& json) { json.Value("x"); }},
         {"Value", "-k--", [](Stringer& json) { json.Value(true); }},
         {"Value", "-k--", [](Stringer& json) { json.Value(1); }},
