@@ -29,11 +29,13 @@ inline const JsonObject* FindMember(const JsonObject& json, std::string_view key
 
 // The questions that readers ask of a member. Each also answers for an absent one, a null pointer.
 
+/// The member when it is of the type, otherwise null.
 inline const JsonObject* IfType(const JsonObject* member, ::Json::ValueType type) noexcept
 {
     return member != nullptr && member->type() == type ? member : nullptr;
 }
 
+/// The text of a JSON string, without a copy; it lives as long as the member is left alone.
 inline std::optional<std::string_view> IfText(const JsonObject* member) noexcept
 {
     const char* begin = nullptr;
@@ -55,6 +57,7 @@ inline std::optional<std::int32_t> IfInt(const JsonObject* member) noexcept
     return member != nullptr && member->isInt() ? std::optional<std::int32_t>(member->asInt()) : std::nullopt;
 }
 
+/// The value of `true` or `false`; numbers are none.
 inline std::optional<bool> IfBool(const JsonObject* member) noexcept
 {
     return IfType(member, ::Json::booleanValue) ? std::optional<bool>(member->asBool()) : std::nullopt;

@@ -132,6 +132,7 @@ public:
     Stringer& Key(std::string_view key);
 
     Stringer& Value(bool value);
+    /// A whole number. Those of 64 bits go out as text, since many JSON libraries keep numbers to 53 bits only.
     Stringer& Value(std::int32_t value);
     /// The shortest form that reads back to the same number. NaN and infinities throw `std::invalid_argument`.
     Stringer& Value(double value);

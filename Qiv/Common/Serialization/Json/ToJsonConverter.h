@@ -11,8 +11,9 @@ namespace Qiv::Common::Serialization::Json
 /// A writer that is called for the value of a key owes the `Stringer` exactly one value for that key, also when it
 /// fails: its caller goes on to the next key or closes the object, and a key without value is misuse, which throws. The
 /// library's own writers keep to it, and write an empty object for a nested writer that fails and does not.
-/// Whatever a writer opens it closes, on failure too. Text is written as a null-terminated string: what follows a NUL
-/// character inside it is not written.
+/// Some writers are declared not to throw: call them where the `Stringer` may take a value, or its exception ends the
+/// process. Whatever a writer opens it closes, on failure too. Text is written as a null-terminated string: what
+/// follows a NUL character inside it is not written.
 template <typename T>
 class QIV_COMMON_SERIALIZATION_EXPORT ToJsonConverter : public Converter<T, Stringer>
 {

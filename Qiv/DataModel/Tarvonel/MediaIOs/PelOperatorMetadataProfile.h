@@ -28,11 +28,12 @@ public:
     bool Equals(const BusinessEntityModel::BaseTypes::MetadataProfile& other) const override;
     std::shared_ptr<BusinessEntityModel::BaseTypes::MetadataProfile> Clone() const override;
 
-    /// The serial number of the server on which the operator works.
+    /// The serial number of the server on which the operator works, by default `EmptyServerSerialNumber()`. Any number
+    /// is stored; serial numbers of servers are positive multiples of 10, and documents are read for these only.
     std::int32_t ServerId() const noexcept { return serverId_; }
     void ServerId(std::int32_t serverId) { serverId_ = serverId; }
 
-    /// The operator's index.
+    /// The operator's index, by default 0. Any number is stored; a negative one is left out of documents.
     std::int32_t Index() const noexcept { return index_; }
     void Index(std::int32_t index) { index_ = index; }
 

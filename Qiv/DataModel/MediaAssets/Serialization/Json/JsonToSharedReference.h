@@ -17,9 +17,9 @@ namespace Qiv::DataModel::MediaAssets::Serialization::Json
 ///     {"_type":"MediaAssetRef","id":"a1"}                       by identifier only
 ///     {"_type":"MediaAssetRef","id":"a1","mediaAsset":{...}}    with the object embedded
 ///
-/// The first form has "id" and at most "_type" beside it; the reference then holds no object. In the second form the
-/// identifier is the embedded object's own, whatever "id" says. "_type" is optional and compared when it is a string.
-/// An "id" that is a number or a boolean is taken as jsoncpp's text of it.
+/// The first form has "id" and at most a "_type" that is not null beside it; the reference then holds no object. In the
+/// second form the identifier is the embedded object's own, whatever "id" says. "_type" is optional and compared when
+/// it is a string. An "id" that is a number or a boolean is taken as jsoncpp's text of it.
 ///
 /// Failures leave the target untouched: "Bad _type", "Bad format" (neither form), or the embedded object's own failure.
 /// Throws what the embedded object's reader throws.

@@ -25,8 +25,10 @@ public:
 
     /// Empty on success.
     const std::string& ErrorMessage() const noexcept { return errorMessage_; }
+    /// The place of the failure; line 1, column 1 on success.
     const TextPosition& Position() const noexcept { return position_; }
-    /// The value that the failure is about, as an RFC 6901 pointer; empty when the text is no JSON.
+    /// The value that the failure is about, as an RFC 6901 pointer; empty for the document as a whole, when the text is
+    /// no JSON, and on success.
     const std::string& Pointer() const noexcept { return pointer_; }
 
 private:

@@ -21,7 +21,8 @@ namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 ///     "locationOnAir"                                                reserved; any value is accepted and ignored
 ///
 /// What is absent, null, of another type, or has a text that no time code or duration has, is skipped without a
-/// message.
+/// message. Of the text in "currentTimePointOnAir" white space and a sign before the number are accepted, and what
+/// follows the number is ignored.
 ///
 /// Failures: "MediaOutput is empty" and "Invalid type X : MediaOutput expected" leave the channel untouched; those of
 /// nested readers are returned unchanged, with the members before them applied.

@@ -8,7 +8,8 @@ namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
 /// Writes a channel of either kind: "_type", then "id", "name", "mediaAssetOnAir" and "metadata" unless they are empty,
-/// then the members of its kind (see `MediaInputToJsonConverter` and `MediaOutputToJsonConverter`).
+/// then the members of its kind (see `MediaInputToJsonConverter` and `MediaOutputToJsonConverter`). A media asset
+/// without identifier counts as empty, whatever else it holds.
 ///
 /// Failures, after which the object is closed: "Unsupported MediaIO type - should be MediaInput or MediaOutput", or
 /// that of a nested writer.

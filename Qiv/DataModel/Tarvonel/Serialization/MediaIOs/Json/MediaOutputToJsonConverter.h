@@ -22,6 +22,9 @@ public:
     /// Writes the time points of "sequence" and "inBoundary" with `timepointConverter`, which must not throw
     /// (an empty pointer stands for the default writer); those of "outBoundary" and "currentTimePointOnAir" are always
     /// written in the default form.
+    ///
+    /// The time point writer of the first converter with which the process writes a player channel is kept until the
+    /// process ends, so its destructor never runs.
     explicit MediaOutputToJsonConverter(SharedTimePointWriter timepointConverter);
     MediaOutputToJsonConverter(const MediaOutputToJsonConverter&) = default;
     MediaOutputToJsonConverter& operator=(const MediaOutputToJsonConverter&) = default;
