@@ -55,11 +55,14 @@ void GenericMetadataProfile::Clear()
     dictionary_.clear();
 }
 
+// The signatures of virtual operations are kept: subclasses of other libraries override them.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool GenericMetadataProfile::Iterate(std::function<bool(const std::string& key, const std::string& value)> visit) const
 {
     return VisitAll(dictionary_, visit);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool GenericMetadataProfile::Iterate(std::function<bool(const std::string& key, std::string& value)> visit)
 {
     return VisitAll(dictionary_, visit);

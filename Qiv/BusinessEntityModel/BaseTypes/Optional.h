@@ -57,6 +57,7 @@ public:
             Move(std::move(value));
         return *this;
     }
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): to itself, the value assigns itself
     Optional& operator=(const Optional& other)
     {
         if (other.hasValue_)
