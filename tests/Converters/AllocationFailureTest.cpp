@@ -149,29 +149,5 @@ TEST(AllocationFailure, LeaksNothingAndLeavesTargetsValid)
         { return MediaIOToJsonConverter().AppendMediaIO(channel, stringer.Object()); });
 }
 
-TEST(AllocationFailure, LeavesAStringerAsItWas)
-{
-    for (long n = 0; n < 200; ++n)
-    {
-        Stringer json;
-        std::string written;
-        for (int i = 0; i < 40; ++i)
-        {
-            const auto before = json.ToString();
-            const auto depth = static_cast<std::size_t>(i);
-            const bool failed = FailsAt(n % 5 == 0 ? 0 : n, [&] { json.Array(); });
-            EXPECT_EQ(json.ToString(), failed ? before : before + "[") << depth;
-            if (failed)
-                json.Array();
-        }
-        const std::string text(static_cast<std::size_t>(n) * 20, '\x01');
-        const auto before = json.ToString();
-        if (FailsAt(n % 2, [&] { json.Value(text); }))
-            EXPECT_EQ(json.ToString(), before);
-        else
-            EXPECT_EQ(json.ToString(), before + Stringer::ToEscapedString(text.c_str()));
-    }
-}
-
 } // namespace
 } // namespace Qiv::Tests

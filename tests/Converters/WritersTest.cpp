@@ -312,6 +312,19 @@ TEST(Writers, CloseWhatTheyOpenedWhenANestedWriterFails)
     EXPECT_EQ(Written(MakeAsset(), references), reference + failure);
     EXPECT_EQ(Written(MakeSequenceOutput(), SequenceOutputToJsonConverter(writer)), sequence + failure);
 
+    // One that writes nothing for its key owes a value, and gets an empty object.
+    struct SilentWriter : ToJsonConverter<TimePoint>
+    {
+        Result To(const TimePoint&, Stringer&) const override { return "silent"; }
+    };
+    const auto silent = std::make_shared<SilentWriter>();
+    EXPECT_EQ(Written(*MakeAsset(), MediaAssetToJsonConverter(silent)),
+              R"({"_type":"MediaAsset","id":"a1","name":"Goal","inPoint":{}} | silent)");
+    EXPECT_EQ(Written(BoundaryAbsolute(TimePoint(5)), BoundaryToJsonConverter(silent)),
+              R"({"_type":"BoundaryAbsolute","timepoint":{}})");
+    EXPECT_EQ(Written(MakeInput(), MediaInputToJsonConverter(silent)),
+              Marked(fullInput, R"({"_type":"TimePoint","value":"1458569109680000000"})", "{}"));
+
     // A channel and a boundary do not look at these failures.
     EXPECT_EQ(Written(BoundaryAbsolute(TimePoint(5)), BoundaryToJsonConverter(writer)),
               R"({"_type":"BoundaryAbsolute","timepoint":5})");
