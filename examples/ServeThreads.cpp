@@ -29,6 +29,7 @@ int main()
 
     std::atomic<int> good{0};
     std::vector<std::thread> threads;
+    threads.reserve(threadCount);
     for (int i = 0; i < threadCount; ++i)
     {
         threads.emplace_back(
