@@ -28,21 +28,28 @@ std::uint64_t LoadKeyPrefix(std::string_view key) noexcept
     };
     const auto size = key.size();
     if (size >= 8)
-        return load4(0) << 32U | load4(4);
+    {
+        std::uint64_t bytes = 0;
+        std::memcpy(&bytes, key.data(), sizeof bytes);
+        return __builtin_bswap64(bytes);
+    }
     if (size >= 4)
         return load4(0) << 32U | load4(size - 4) << (8 * (8 - size));
     return KeyPrefix(key);
 }
 
-// Less than, equal to or greater than 0 as `key` orders before, is, or orders behind `name`. The prefix decides for
-// almost all keys.
-int Compare(const KnownKey& key, std::string_view name, std::uint64_t prefix) noexcept
+// Whether a key is `name`, when both have the same prefix.
+bool HasSameRest(std::string_view key, std::string_view name) noexcept
 {
-    if (key.prefix != prefix)
-        return key.prefix < prefix ? -1 : 1;
-    if (key.text.size() <= sizeof prefix && name.size() <= sizeof prefix)
-        return static_cast<int>(key.text.size()) - static_cast<int>(name.size());
-    return key.text.compare(name);
+    constexpr std::size_t prefixSize = sizeof KnownKey::prefix;
+    if (key.size() != name.size())
+        return false;
+    if (key.size() <= prefixSize)
+        return true;
+    if (key.size() > 2 * prefixSize)
+        return key == name;
+    const auto last = key.size() - prefixSize; // the last eight bytes overlap the prefix
+    return std::memcmp(key.data() + last, name.data() + last, prefixSize) == 0;
 }
 
 } // namespace
@@ -65,13 +72,20 @@ bool FindMembers(const JsonObject& json, const KnownKey* ascendingKeys, std::siz
         const std::string_view name(nameBegin, static_cast<std::size_t>(nameEnd - nameBegin));
         const auto prefix = LoadKeyPrefix(name);
 
-        int order = -1;
-        while (key != lastKey && (order = Compare(*key, name, prefix)) < 0)
-            ++key;
+        for (; key != lastKey && key->prefix <= prefix; ++key)
+        {
+            if (key->prefix != prefix)
+                continue;
+            if (HasSameRest(key->text, name))
+            {
+                members[key++ - ascendingKeys] = &*member;
+                break;
+            }
+            if (key->text > name)
+                break;
+        }
         if (key == lastKey)
             break;
-        if (order == 0)
-            members[key++ - ascendingKeys] = &*member;
     }
     return size != 0;
 }

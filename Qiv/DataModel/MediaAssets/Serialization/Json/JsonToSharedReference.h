@@ -5,8 +5,10 @@
 #include <Qiv/Common/Serialization/Json/KnownMembers.h>
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/Export.h>
 
+#include <array>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Qiv::DataModel::MediaAssets::Serialization::Json
@@ -32,6 +34,16 @@ class QIV_DATAMODEL_MEDIAASSETS_SERIALIZATION_JSON_EXPORT JsonToSharedReference
     using JsonObject = Common::Serialization::Json::JsonObject;
     using Result = Common::Serialization::Result;
 
+    struct Keys
+    {
+        enum class Index
+        {
+            Type,
+            Id
+        };
+        static constexpr std::array<std::string_view, 2> names{"_type", "id"};
+    };
+
 public:
     using TargetReader = Common::Serialization::Json::FromJsonConverter<T>;
 
@@ -50,13 +62,14 @@ public:
     Result To(const JsonObject& json, Reference& reference) const override
     {
         using Common::Serialization::Json::FindMember;
-        using Common::Serialization::Json::TextOf;
+        using Common::Serialization::Json::IfText;
 
-        const auto* const type = FindMember(json, "_type");
-        if (type != nullptr && type->isString() && TextOf(*type) != typeProperty_)
+        const Common::Serialization::Json::KnownMembers<Keys> members(json);
+        const auto* const type = members.Any(Keys::Index::Type);
+        if (IfText(type).value_or(typeProperty_) != typeProperty_)
             return "Bad _type";
 
-        const auto* const id = FindMember(json, "id");
+        const auto* const id = members.Any(Keys::Index::Id);
         if (id != nullptr && (json.size() == 1 || (json.size() == 2 && type != nullptr)))
         {
             if (id->isArray() || id->isObject())
