@@ -33,16 +33,22 @@ const JsonToSharedReference<Sequence>& SequenceReferenceReader()
 Result AppendReference(Stringer& stringer, const MediaAssetReference& reference,
                        const SharedTimePointWriter& timepointConverter)
 {
-    // A reference by identifier needs no writer of assets.
-    const auto assetWriter =
-        reference.Pointer() ? std::make_shared<MediaAssetToJsonConverter>(timepointConverter) : nullptr;
-    return SharedReferenceToJson<MediaAsset, false>("MediaAssetRef", "mediaAsset", assetWriter).To(reference, stringer);
+    using Writer = SharedReferenceToJson<MediaAsset, false>;
+    static const auto& defaultWriter =
+        *new Writer("MediaAssetRef", "mediaAsset", std::make_shared<MediaAssetToJsonConverter>());
+
+    // A reference by identifier holds no time points.
+    if (timepointConverter == nullptr || reference.Pointer() == nullptr)
+        return defaultWriter.To(reference, stringer);
+    return Writer("MediaAssetRef", "mediaAsset", std::make_shared<MediaAssetToJsonConverter>(timepointConverter))
+        .To(reference, stringer);
 }
 
 Result AppendReference(Stringer& stringer, const SequenceReference& reference)
 {
-    const auto sequenceWriter = reference.Pointer() ? std::make_shared<SequenceToJsonConverter>() : nullptr;
-    return SharedReferenceToJson<Sequence, false>("SequenceRef", "sequence", sequenceWriter).To(reference, stringer);
+    static const auto& writer = *new SharedReferenceToJson<Sequence, false>(
+        "SequenceRef", "sequence", std::make_shared<SequenceToJsonConverter>());
+    return writer.To(reference, stringer);
 }
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json::Details
