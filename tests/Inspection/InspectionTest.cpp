@@ -327,6 +327,8 @@ TEST(InspectDocument, NamesKindPlaceAndReadersText)
          "failure /speedOnAir: -> Speed is empty; failure /sequence/assetBlockOnAir/_type: -> Invalid type AssetBlock "
          ": "
          "AssetBlockOnAir expected; ends-process /currentTimePointOnAir/value: -> stoll"},
+        {R"({"currentTimePointOnAir": {"_type": "TimePoint", "value": "x"}})", // the reader of players takes it
+         "failure : -> Invalid JSON type (undefined); ends-process /currentTimePointOnAir/value: -> stoll"},
         {R"({"_type": "MediaOutput", "currentTimePointOnAir": {"_type": "Time", "value": "x"}})",
          "invalid-value /currentTimePointOnAir/_type:"},
     };

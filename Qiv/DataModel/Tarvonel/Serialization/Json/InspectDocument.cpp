@@ -378,14 +378,10 @@ void Metadata(Inspection& inspection, const JsonObject& value)
     }
 }
 
-// A channel, or a document of no known kind, as JsonToMediaIOConverter reads it into a channel of that kind.
-void Channel(Inspection& inspection, const JsonObject& value, const Shape& shape, const Shape& otherKind)
+void ReportChannelTag(Inspection& inspection, const JsonObject& value, const Shape& shape, const Shape& otherKind)
 {
     const auto* const tag = FindMember(value, "_type");
     const auto text = IfText(tag);
-    if (IsEmptyObject(value) || text == shape.tag)
-        return inspection.Inspect(value, shape);
-
     if (tag == nullptr)
         return inspection.ReportFailure(value, "has no \"_type\"", "Invalid JSON type (undefined)");
     const Inspection::Step step(inspection, "_type");
@@ -402,6 +398,16 @@ void Channel(Inspection& inspection, const JsonObject& value, const Shape& shape
         inspection.ReportFailure(
             *tag, Quote(*text).append(KindOf(value) ? " is no kind of channel" : " names no kind of document"),
             std::string("Invalid JSON type ('").append(*text).append("') : 'MediaInput' or 'MediaOutput' expected"));
+}
+
+// A channel, or a document of no known kind, as JsonToMediaIOConverter reads it into a channel of that kind.
+void Channel(Inspection& inspection, const JsonObject& value, const Shape& shape, const Shape& otherKind)
+{
+    if (IsEmptyObject(value) || IfText(FindMember(value, "_type")) == shape.tag)
+        return inspection.Inspect(value, shape);
+    ReportChannelTag(inspection, value, shape, otherKind);
+    // The reader of players takes a document without "_type" too, and only its members can end the process.
+    inspection.InspectForFatal(value, mediaOutput.members);
 }
 
 const Finding* FirstOf(const std::vector<Finding>& findings, FindingKind kind) noexcept

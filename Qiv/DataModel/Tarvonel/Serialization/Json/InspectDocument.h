@@ -18,9 +18,9 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json
 /// The findings stand in the order in which the reader takes the members, so the reader fails with the text of the
 /// first `Failure` (see FirstFailure) and succeeds when there is none, provided that nothing ends the process. What
 /// the reader would not reach after that failure is inspected all the same, apart from the inside of an object with a
-/// wrong "_type": a document is called fatal also when a failure would keep the reader from the fatal member. In what
-/// the writers write nothing is found but time codes that do not come back: those without date, and those with a frame
-/// number of three digits.
+/// wrong "_type": a document is called fatal also when a failure would keep the reader from the fatal member. A channel
+/// with a wrong "_type" or none is still searched for what ends the process. In what the writers write nothing is found
+/// but time codes that do not come back: those without date, and those with a frame number of three digits.
 ///
 /// Members with a `WrongType`, `UnknownMember` or `Ignored` may be removed without any effect on the entity, as long
 /// as the document has no failure and the object around them does not become empty, which readers refuse.

@@ -189,6 +189,15 @@ void Inspection::InspectMembers(const JsonObject& object, const Members& members
         InspectMember(object, member);
 }
 
+void Inspection::InspectForFatal(const JsonObject& object, const Members& members)
+{
+    const auto before = static_cast<std::ptrdiff_t>(findings_.size());
+    InspectMembers(object, members);
+    findings_.erase(std::remove_if(findings_.begin() + before, findings_.end(),
+                                   [](const Finding& finding) { return finding.kind != FindingKind::EndsProcess; }),
+                    findings_.end());
+}
+
 void Inspection::InspectMember(const JsonObject& object, const Member& member)
 {
     const auto* const value = FindRaw(object, member.key);

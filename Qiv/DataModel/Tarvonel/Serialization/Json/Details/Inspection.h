@@ -99,6 +99,8 @@ public:
     /// The members that a table lists.
     void InspectMembers(const JsonObject& object, const Members& members);
     void InspectMember(const JsonObject& object, const Member& member);
+    /// The same, but only what ends the process is reported.
+    void InspectForFatal(const JsonObject& object, const Members& members);
     /// The members of an object that no table lists, "_type" aside.
     void ReportUnknown(const JsonObject& object, const Members& members, std::string_view tag);
 
