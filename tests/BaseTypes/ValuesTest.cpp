@@ -1,5 +1,6 @@
 #include <Qiv/BusinessEntityModel/BaseTypes/FullyQualifiedName.h>
 #include <Qiv/BusinessEntityModel/BaseTypes/Identifier.h>
+#include <Qiv/BusinessEntityModel/BaseTypes/Optional.h>
 #include <Qiv/BusinessEntityModel/BaseTypes/SharedReference.h>
 #include <Qiv/BusinessEntityModel/BaseTypes/SortedVector.h>
 #include <Qiv/BusinessEntityModel/BaseTypes/SortedVectorSharedPointer.h>
@@ -10,20 +11,126 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
-#include <memory>
+#include <optional>
 #include <random>
 #include <regex>
 #include <set>
-#include <stdexcept>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace Qiv::BusinessEntityModel::BaseTypes
 {
 namespace
 {
+
+/// Counts its living instances, and throws on copying when told to. The text is long enough to live on the heap, so
+/// that an address sanitizer sees a lost or doubled destruction.
+struct Tracked
+{
+    static inline int alive = 0;
+    static inline bool throws = false;
+
+    explicit Tracked(int number) : text(std::to_string(number) + " is held in a text of its own") { ++alive; }
+    Tracked(const Tracked& other) : text(throws ? throw std::logic_error("copy") : other.text) { ++alive; }
+    Tracked(Tracked&& other) noexcept : text(std::move(other.text)) { ++alive; }
+    Tracked& operator=(const Tracked&) = default;
+    Tracked& operator=(Tracked&&) noexcept = default;
+    ~Tracked() { --alive; }
+    bool operator==(const Tracked& other) const { return text == other.text; }
+
+    std::string text;
+};
+
+static_assert(std::is_nothrow_move_constructible_v<Optional<Tracked>>);
+static_assert(std::is_nothrow_move_assignable_v<Optional<Tracked>>);
+static_assert(!std::is_convertible_v<Optional<int>, bool>, "an optional number must not be taken for its presence");
+
+TEST(Optional, BehavesAsTheStandardOneUnderRandomOperations)
+{
+    std::mt19937 random(20160321);
+    {
+        Optional<Tracked> actual[2];
+        std::optional<Tracked> expected[2];
+        for (int step = 0; step < 20000; ++step)
+        {
+            const auto target = random() % 2;
+            const auto source = random() % 2;
+            const Tracked value(step);
+            switch (random() % 7)
+            {
+                // clang-format off
+            case 0: actual[target] = value, expected[target] = value; break;
+            case 1: actual[target] = Tracked(value), expected[target] = value; break;
+            case 2: actual[target] = actual[source], expected[target] = expected[source]; break;
+            case 3: actual[target] = Optional<Tracked>(actual[source]), expected[target] = expected[source]; break;
+            case 4: actual[target].Undefine(), expected[target].reset(); break;
+            case 5: actual[target] = Optional<Tracked>::Null(), expected[target].reset(); break;
+            default: std::swap(actual[0], actual[1]), std::swap(expected[0], expected[1]); break;
+                // clang-format on
+            }
+            for (const auto i : {0, 1})
+            {
+                ASSERT_EQ(actual[i].HasValue(), expected[i].has_value()) << step;
+                ASSERT_TRUE(!expected[i] || actual[i].Value() == *expected[i]) << step;
+            }
+            ASSERT_EQ(actual[0] == actual[1], expected[0] == expected[1]) << step;
+        }
+        const Tracked value(1);
+        actual[0].Undefine();
+        Tracked::throws = true;
+        EXPECT_THROW(actual[0] = value, std::logic_error);
+        EXPECT_THROW(Optional<Tracked>{value}, std::logic_error);
+        Tracked::throws = false;
+        EXPECT_FALSE(actual[0].HasValue());
+        EXPECT_EQ(ThrownText<std::runtime_error>([&] { *std::as_const(actual[0]); }),
+                  "Can't retrieve the value of a Null Optional value");
+        EXPECT_THROW(actual[0]->text.clear(), std::runtime_error);
+    }
+    EXPECT_EQ(Tracked::alive, 0);
+}
+
+TEST(Identifier, GeneratesDistinctUuids)
+{
+    const std::regex form("[0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-[89ab][0-9a-f]{3}-[0-9a-f]{12}");
+    std::set<std::string> all;
+    std::set<std::pair<std::size_t, char>> seen;
+    for (int i = 0; i < 1000; ++i)
+    {
+        const std::string text = *all.insert(Identifier::Generate()).first;
+        EXPECT_TRUE(std::regex_match(text, form)) << text;
+        for (std::size_t place = 0; place < text.size(); ++place)
+            seen.emplace(place, text[place]);
+    }
+    EXPECT_EQ(all.size(), 1000u);
+    EXPECT_EQ(seen.size(), 30u * 16 + 4 + 5); // 30 places of any digit, one of four digits, five fixed characters
+}
+
+TEST(Utf8String, IsMadeFromTextsAndBytes)
+{
+    const std::uint8_t bytes[] = {0xC3, 0xA4, 0x00, 'b', 0x00};
+    EXPECT_EQ(Utf8String("a\0b", 3), std::string("a\0b", 3));
+    EXPECT_EQ(Utf8String(bytes), "\xC3\xA4");
+    EXPECT_EQ(Utf8String(bytes, 4), std::string("\xC3\xA4\0b", 4));
+    EXPECT_EQ(Utf8String(static_cast<const char*>(nullptr)), "");
+    EXPECT_EQ(Utf8String(static_cast<const std::uint8_t*>(nullptr), 0), "");
+}
+
+TEST(FullyQualifiedName, JoinsParts)
+{
+    using Name = FullyQualifiedName;
+    const std::pair<Name, const char*> names[] = {
+        {Name::Concat("a.b", 'c'), "a.bc"},
+        {Name::Concat("a.b", "cd"), "a.bcd"},
+        {Name::Concat("a", -12), "a-12"},
+        {Name::Concat("a", 4294967295u), "a4294967295"},
+        {Name::Combine("", '/', ""), "/"},
+        {Name::Combine("a", '#', -12), "a#-12"},
+        {Name::Combine("a", '#', 4294967295u), "a#4294967295"},
+        {Name::CombinePath("a.b", "c.d"), "a.b.c.d"},
+        {Name::CombinePath("", "c"), "c"},
+        {Name::CombinePath("a", ""), "a"},
+    };
+    for (const auto& [name, text] : names)
+        EXPECT_EQ(name.Value(), text);
+}
 
 struct Entity
 {
@@ -36,56 +143,15 @@ std::shared_ptr<Entity> MakeEntity(const std::string& id)
     return std::make_shared<Entity>(Entity{id});
 }
 
-TEST(Identifier, GeneratesDistinctUuids)
-{
-    std::set<std::string> all;
-    for (int i = 0; i < 1000; ++i)
-        all.insert(Identifier::Generate());
-    EXPECT_EQ(all.size(), 1000u);
-    const std::regex form("[0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-[89ab][0-9a-f]{3}-[0-9a-f]{12}");
-    std::set<std::pair<std::size_t, char>> seen;
-    for (const auto& text : all)
-    {
-        EXPECT_TRUE(std::regex_match(text, form)) << text;
-        for (std::size_t i = 0; i < text.size(); ++i)
-            seen.emplace(i, text[i]);
-    }
-    EXPECT_EQ(seen.size(), 30u * 16 + 4 + 5); // 30 places of any digit, one of four digits, five fixed characters
-}
-
-TEST(Utf8String, IsMadeFromTextsAndBytes)
-{
-    const std::uint8_t bytes[] = {0xC3, 0xA4, 0x00, 'b', 0x00};
-    EXPECT_EQ(Utf8String("ab"), "ab");
-    EXPECT_EQ(Utf8String("a\0b", 3), std::string("a\0b", 3));
-    EXPECT_EQ(Utf8String(std::string("a\0b", 3)).size(), 3u);
-    EXPECT_EQ(Utf8String(bytes), "\xC3\xA4");
-    EXPECT_EQ(Utf8String(bytes, 4), std::string("\xC3\xA4\0b", 4));
-    EXPECT_EQ(Utf8String(static_cast<const char*>(nullptr)), "");
-    EXPECT_EQ(Utf8String(static_cast<const std::uint8_t*>(nullptr), 0), "");
-}
-
-TEST(FullyQualifiedName, JoinsParts)
-{
-    using Name = FullyQualifiedName;
-    EXPECT_EQ(Name::Concat("a.b", 'c'), Name("a.bc"));
-    EXPECT_EQ(Name::Concat("a.b", "cd"), Name("a.bcd"));
-    EXPECT_EQ(Name::Concat("a", -12), Name("a-12"));
-    EXPECT_EQ(Name::Concat("a", 4294967295u), Name("a4294967295"));
-    EXPECT_EQ(Name::Combine("", '/', ""), Name("/"));
-    EXPECT_EQ(Name::Combine("a", '#', -12), Name("a#-12"));
-    EXPECT_EQ(Name::Combine("a", '#', 4294967295u), Name("a#4294967295"));
-    EXPECT_EQ(Name::CombinePath("a.b", "c.d"), Name("a.b.c.d"));
-    EXPECT_EQ(Name::CombinePath("", "c"), Name("c"));
-    EXPECT_EQ(Name::CombinePath("a", ""), Name("a"));
-}
-
 TEST(SharedReference, TakesTheIdentifierOfEachObjectItIsGiven)
 {
     using Reference = SharedReference<Entity>;
     const auto entity = MakeEntity("e");
     const std::weak_ptr<Entity> weak = entity;
     Reference assigned;
+    EXPECT_TRUE(assigned.IsEmpty() && !assigned && !Reference(MakeEntity("")).IsEmpty());
+    EXPECT_EQ(ThrownText<std::runtime_error>([&] { assigned.Value(); }), "null pointer");
+    EXPECT_THROW(assigned->id = Identifier(), std::runtime_error);
     assigned = entity;
     Reference weaklyAssigned;
     weaklyAssigned = weak;
@@ -100,34 +166,17 @@ TEST(SharedReference, TakesTheIdentifierOfEachObjectItIsGiven)
     EXPECT_EQ(unique.Id(), Identifier("v"));
     EXPECT_NE(unique, assigned);
 
+    unique->id = Identifier("new");
+    EXPECT_EQ(unique.Id(), Identifier("v"));
+    unique.UpdateIdentifier();
+    EXPECT_EQ(unique.Id(), Identifier("new"));
+
     // What has no object leaves an empty reference when assigned, and only the identifier when set.
     assigned = std::weak_ptr<Entity>();
     EXPECT_TRUE(assigned.IsEmpty());
     unique.Pointer(std::shared_ptr<Entity>());
     EXPECT_EQ(unique.Pointer(), nullptr);
-    EXPECT_EQ(unique, Reference(Identifier("v")));
-}
-
-TEST(SharedReference, IsEmptyWithoutIdentifierAndObject)
-{
-    SharedReference<Entity> reference;
-    EXPECT_TRUE(reference.IsEmpty() && !reference);
-    EXPECT_FALSE(SharedReference<Entity>(Identifier("x")).IsEmpty() ||
-                 SharedReference<Entity>(MakeEntity("")).IsEmpty());
-    EXPECT_EQ(ThrownText<std::runtime_error>([&] { reference.Value(); }), "null pointer");
-    EXPECT_EQ(ThrownText<std::runtime_error>([&] { reference->id = Identifier(); }), "null pointer");
-}
-
-TEST(SharedReference, UpdatesItsIdentifierOnDemand)
-{
-    SharedReference<Entity> reference(MakeEntity("old"));
-    reference->id = Identifier("new");
-    EXPECT_EQ(reference.Id(), Identifier("old"));
-    reference.UpdateIdentifier();
-    EXPECT_EQ(reference.Id(), Identifier("new"));
-    reference.Pointer() = nullptr;
-    reference.UpdateIdentifier();
-    EXPECT_EQ(static_cast<const Identifier&>(reference), Identifier("new"));
+    EXPECT_TRUE(unique == Reference(Identifier("new")) && unique);
 }
 
 constexpr const char* duplicateText =
@@ -140,6 +189,8 @@ TEST(SortedVector, BehavesAsASetUnderRandomOperations)
     std::mt19937 random(14);
     SortedVector<int> actual;
     std::set<int> expected;
+    EXPECT_THROW(actual.Front(), std::out_of_range);
+    EXPECT_THROW(actual.Back(), std::out_of_range);
     for (int step = 0; step < 5000; ++step)
     {
         const int item = static_cast<int>(random() % 40);
@@ -158,82 +209,54 @@ TEST(SortedVector, BehavesAsASetUnderRandomOperations)
             ASSERT_EQ(actual.Erase(item), expected.erase(item) != 0);
         }
         ASSERT_EQ(actual.Values(), std::vector<int>(expected.begin(), expected.end()));
-        ASSERT_EQ(actual.Size(), expected.size());
+        ASSERT_THROW(actual[expected.size()], std::out_of_range);
+        ASSERT_TRUE(expected.empty() || (actual.Front() == *expected.begin() && actual.Back() == *expected.rbegin()));
     }
-}
-
-TEST(SortedVector, ChecksEveryPosition)
-{
-    SortedVector<int> numbers;
-    EXPECT_THROW(numbers.Front(), std::out_of_range);
-    EXPECT_THROW(numbers.Back(), std::out_of_range);
-    numbers.Insert(1);
-    EXPECT_EQ(numbers.Front() + numbers.Back() + numbers[0] + numbers.At(0), 4);
-    EXPECT_THROW(numbers[1], std::out_of_range);
-    EXPECT_THROW(numbers.CheckIndex(static_cast<std::size_t>(-1)), std::out_of_range);
-}
-
-TEST(SortedVector, TakesAWholeSetOrLeavesTheElements)
-{
-    SortedVector<int> numbers;
-    numbers.Values({3, 1, 2});
-    EXPECT_EQ(ThrownText<std::runtime_error>([&] { numbers.Values({5, 4, 5}); }), duplicateText);
-    EXPECT_EQ(numbers.Values(), (std::vector<int>{1, 2, 3}));
-    numbers[0] = 9; // changed in place: out of order until Sort()
-    numbers.Sort();
-    EXPECT_EQ(numbers.Values(), (std::vector<int>{2, 3, 9}));
+    actual.Values({3, 1, 2});
+    EXPECT_EQ(ThrownText<std::runtime_error>([&] { actual.Values({5, 4, 5}); }), duplicateText);
+    EXPECT_EQ(actual.Values(), (std::vector<int>{1, 2, 3}));
+    actual[0] = 9; // changed in place: out of order until Sort()
+    actual.Sort();
+    EXPECT_EQ(actual.Values(), (std::vector<int>{2, 3, 9}));
 }
 
 TEST(SortedVector, OrdersReferencesByTheBytesOfTheirIdentifiers)
 {
-    using Reference = SharedReference<Entity>;
-    SortedVector<Reference> references;
+    SortedVector<SharedReference<Entity>> references;
     for (const char* id : {"b", "\xC3\xA4", "ab", "a", "", "Z"})
-        references.Insert(Reference(Identifier(id)));
+        references.Insert(SharedReference<Entity>(Identifier(id)));
     std::string order;
     for (const auto& reference : references)
         order += reference.Id().Value() + '|';
     EXPECT_EQ(order, "|Z|a|ab|b|\xC3\xA4|");
     // The object does not count, only the identifier does.
-    EXPECT_EQ(
-        ThrownText<std::runtime_error>([&] { references.Insert(std::make_shared<Entity>(Entity{Identifier("ab")})); }),
-        duplicateText);
-    EXPECT_TRUE(references.Replace(std::make_shared<Entity>(Entity{Identifier("ab")})));
+    EXPECT_EQ(ThrownText<std::runtime_error>([&] { references.Insert(MakeEntity("ab")); }), duplicateText);
+    EXPECT_TRUE(references.Replace(MakeEntity("ab")));
     EXPECT_NE(references[3].Pointer(), nullptr);
 }
 
-TEST(SortedVectorSharedPointer, OrdersByTheObjectsAndNullFirst)
+TEST(SortedVectorOfPointers, OrdersByTheObjectsNullFirstAndRefusesExpiredOnes)
 {
-    SortedVectorSharedPointer<int> pointers;
-    for (const int number : {7, 5, 6})
-        pointers.Insert(std::make_shared<int>(number));
-    pointers.Insert(nullptr);
-    EXPECT_EQ(ThrownText<std::runtime_error>([&] { pointers.Insert(nullptr); }), duplicateText);
-    EXPECT_EQ(ThrownText<std::runtime_error>([&] { pointers.Insert(std::make_shared<int>(6)); }), duplicateText);
-    EXPECT_EQ(pointers.Front(), nullptr);
-    EXPECT_EQ(*pointers[1], 5);
-    EXPECT_EQ(*pointers.Back(), 7);
-
-    SortedVectorSharedPointer<int> others;
-    others.Values({std::make_shared<int>(7), std::make_shared<int>(6), nullptr, std::make_shared<int>(5)});
+    const auto five = std::make_shared<int>(5), otherFive = std::make_shared<int>(5);
+    auto seven = std::make_shared<int>(7);
+    SortedVectorSharedPointer<int> pointers, others;
+    pointers.Values({seven, nullptr, five});
+    others.Values({otherFive, seven, nullptr});
     EXPECT_TRUE(pointers == others);
-}
+    for (const auto& present : {otherFive, std::shared_ptr<int>()})
+        EXPECT_EQ(ThrownText<std::runtime_error>([&] { pointers.Insert(present); }), duplicateText);
+    EXPECT_EQ(pointers.Values(), (std::vector<std::shared_ptr<int>>{nullptr, five, seven}));
 
-TEST(SortedVectorWeakPointer, OrdersByTheObjectsAndRefusesExpiredOnes)
-{
-    const auto one = std::make_shared<int>(1);
-    auto two = std::make_shared<int>(2);
-    SortedVectorWeakPointer<int> pointers;
-    pointers.Insert(two);
-    pointers.Insert(one);
-    EXPECT_EQ(pointers.Front().lock(), one);
-    EXPECT_EQ(ThrownText<std::runtime_error>([&] { pointers.Insert(std::weak_ptr<int>()); }), expiredText);
-    EXPECT_EQ(ThrownText<std::runtime_error>([&] { pointers.Insert(one); }), duplicateText);
-    two.reset();
-    EXPECT_EQ(ThrownText<std::runtime_error>([&] { static_cast<void>(pointers == pointers); }), expiredText);
-    EXPECT_EQ(ThrownText<std::runtime_error>([&] { pointers.Sort(); }), expiredText);
-    EXPECT_EQ(pointers.Size(), 2u);
-    EXPECT_EQ(pointers.Front().lock(), one);
+    SortedVectorWeakPointer<int> weak;
+    weak.Insert(seven);
+    weak.Insert(five);
+    EXPECT_EQ(weak.Front().lock(), five);
+    EXPECT_EQ(ThrownText<std::runtime_error>([&] { weak.Insert(otherFive); }), duplicateText);
+    EXPECT_EQ(ThrownText<std::runtime_error>([&] { weak.Insert(std::weak_ptr<int>()); }), expiredText);
+    pointers.Clear(), others.Clear(), seven.reset();
+    EXPECT_EQ(ThrownText<std::runtime_error>([&] { static_cast<void>(weak == weak); }), expiredText);
+    EXPECT_EQ(ThrownText<std::runtime_error>([&] { weak.Sort(); }), expiredText);
+    EXPECT_TRUE(weak.Size() == 2 && weak.Front().lock() == five);
 }
 
 } // namespace

@@ -8,12 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <functional>
 #include <memory>
-#include <string>
-#include <type_traits>
-#include <utility>
 #include <vector>
 
 namespace Qiv::DataModel::Tarvonel::MediaIOs
@@ -24,15 +20,11 @@ namespace
 namespace BaseTypes = BusinessEntityModel::BaseTypes;
 using BaseTypes::Identifier;
 using TimePoints::Duration;
-using TimePoints::TimeCode;
 using TimePoints::TimePoint;
 
 static_assert(std::is_abstract_v<MediaIO> && std::has_virtual_destructor_v<MediaIO>);
 static_assert(!std::is_copy_assignable_v<MediaIO> && !std::is_move_assignable_v<MediaIO>);
 static_assert(std::is_copy_constructible_v<MediaInput> && std::is_copy_constructible_v<MediaOutput>);
-
-using AssetReference = BaseTypes::SharedReference<MediaAssets::MediaAsset>;
-const TimeCode timeCode(1, false, TimePoints::Rate(25), true);
 
 /// Claims any origin, as a boundary of another library might.
 class ForeignBoundary : public Boundary
@@ -79,91 +71,112 @@ TEST(Boundary, IsEqualByKindAndFields)
 
 TEST(MediaInput, KeepsItsCapacitiesConsistent)
 {
-    const struct
-    {
-        std::vector<std::pair<char, std::int64_t>> settings; // 't'otal or 'r'emaining capacity
-        std::int64_t remaining;
-        std::int64_t total;
-    } rows[] = {
-        {{{'t', 100}, {'r', 150}}, 150, 150}, {{{'r', 150}, {'t', 100}}, 100, 100},
-        {{{'t', 100}, {'r', 40}}, 40, 100},   {{{'r', 40}, {'t', 100}}, 40, 100},
-        {{{'r', 7}, {'t', -5}}, 0, 0},        {{{'r', -5}}, -5, 0},
-        {{{'r', -5}, {'t', -5}}, -5, 0},      {{{'t', INT64_MAX}, {'r', INT64_MIN}, {'t', INT64_MIN}}, INT64_MIN, 0},
+    using Settings = std::vector<std::pair<char, std::int64_t>>; // of 't'otal or 'r'emaining capacity
+    const std::tuple<Settings, std::int64_t, std::int64_t> rows[] = {
+        {{{'t', 100}, {'r', 150}}, 150, 150},
+        {{{'r', 150}, {'t', 100}}, 100, 100},
+        {{{'t', 100}, {'r', 40}}, 40, 100},
+        {{{'r', 40}, {'t', 100}}, 40, 100},
+        {{{'r', 7}, {'t', -5}}, 0, 0},
+        {{{'r', -5}, {'t', -5}}, -5, 0},
+        {{{'t', INT64_MAX}, {'r', INT64_MIN}, {'t', INT64_MIN}}, INT64_MIN, 0},
     };
-    for (const auto& row : rows)
+    for (const auto& [settings, remaining, total] : rows)
     {
         MediaInput channel;
-        for (const auto& [kind, nanoseconds] : row.settings)
+        for (const auto& [kind, nanoseconds] : settings)
         {
             Duration capacity(nanoseconds);
             kind == 't' ? channel.TotalCapacity(capacity) : channel.RemainingCapacity(capacity);
         }
-        EXPECT_EQ(channel.RemainingCapacity().Nanoseconds(), row.remaining) << &row - rows;
-        EXPECT_EQ(channel.TotalCapacity().Nanoseconds(), row.total) << &row - rows;
+        EXPECT_EQ(channel.RemainingCapacity(), Duration(remaining));
+        EXPECT_EQ(channel.TotalCapacity(), Duration(total));
     }
 }
 
-template <typename Channel>
-using Changes = std::vector<std::function<void(Channel&)>>;
-
-/// Applies each change, those of any channel first, to a channel of its own: each makes it differ from the default one
-/// and from all others, and a copy and a moved-to channel are equal to it.
-template <typename Channel>
-void CheckEquality(const Changes<Channel>& changes)
+/// Applies each change to a default value: all differ, and a copy and a moved-to value are equal to their source.
+template <typename T>
+void CheckEquality(std::vector<std::function<void(T&)>> changes)
 {
-    Changes<Channel> all = {
-        [](Channel&) {},
-        [](Channel& channel) { channel.Id(Identifier("x")); },
-        [](Channel& channel) { channel.Name("x"); },
-        [](Channel& channel) { channel.MediaAssetOnAir(AssetReference(Identifier("x"))); },
-        [](Channel& channel) { channel.Metadata().Set(std::make_shared<PelOperatorMetadataProfile>()); },
-        [](Channel& channel) { channel.PrimaryTimecodeType(MediaAssets::TimecodePrimary::User); },
-    };
-    all.insert(all.end(), changes.begin(), changes.end());
-    std::vector<Channel> channels(all.size());
-    for (std::size_t i = 0; i < all.size(); ++i)
-        all[i](channels[i]);
-    for (std::size_t i = 0; i < all.size(); ++i)
+    if constexpr (std::is_base_of_v<MediaIO, T>)
     {
-        for (std::size_t j = 0; j < all.size(); ++j)
-            EXPECT_EQ(channels[i] == channels[j], i == j) << i << ' ' << j;
-        Channel copy(channels[i]);
-        EXPECT_TRUE(copy == channels[i]) << i;
-        const Channel moved(std::move(copy));
-        EXPECT_TRUE(moved == channels[i]) << i;
+        using Reference = BaseTypes::SharedReference<MediaAssets::MediaAsset>;
+        changes.push_back([](T& channel) { channel.Id(Identifier("x")); });
+        changes.push_back([](T& channel) { channel.Name("x"); });
+        changes.push_back([](T& channel) { channel.MediaAssetOnAir(Reference(Identifier("x"))); });
+        changes.push_back([](T& channel) { channel.Metadata().Set(std::make_shared<PelOperatorMetadataProfile>()); });
+        changes.push_back([](T& channel) { channel.PrimaryTimecodeType(MediaAssets::TimecodePrimary::User); });
+    }
+    std::vector<T> values(changes.size() + 1);
+    for (std::size_t i = 0; i < changes.size(); ++i)
+        changes[i](values[i]);
+    for (const T& left : values)
+    {
+        for (const T& right : values)
+            EXPECT_EQ(left == right, &left == &right) << &left - &values[0] << ' ' << &right - &values[0];
+        T copy(left);
+        EXPECT_TRUE(copy == left) << &left - &values[0];
+        EXPECT_TRUE(T(std::move(copy)) == left) << &left - &values[0];
     }
 }
 
-TEST(MediaInput, IsEqualMemberByMember)
+TEST(Entities, AreEqualMemberByMember)
 {
+    const TimePoints::TimeCode timeCode(1, false, TimePoints::Rate(25), true);
     Duration one(1);
     CheckEquality<MediaInput>({
-        [](MediaInput& channel) { channel.RecordingStatus(RecordingStatus::Pause); },
-        [](MediaInput& channel) { channel.LastTimePoint(TimePoint(0)); },
-        [](MediaInput& channel) { channel.LastTodTimecode(timeCode); },
-        [](MediaInput& channel) { channel.LastUserTimecode(timeCode); },
-        [](MediaInput& channel) { channel.TotalCapacity(Duration(1)); },
-        [&](MediaInput& channel) { channel.RemainingCapacity(one); },
+        [](auto& channel) { channel.RecordingStatus(RecordingStatus::Pause); },
+        [](auto& channel) { channel.LastTimePoint(TimePoint(0)); },
+        [&](auto& channel) { channel.LastTodTimecode(timeCode); },
+        [&](auto& channel) { channel.LastUserTimecode(timeCode); },
+        [](auto& channel) { channel.TotalCapacity(Duration(1)); },
+        [&](auto& channel) { channel.RemainingCapacity(one); },
     });
-    EXPECT_EQ(MediaInput().GetMode(), MediaIO::Mode::Input);
-}
-
-TEST(MediaOutput, IsEqualMemberByMember)
-{
-    Duration one(1);
     CheckEquality<MediaOutput>({
-        [](MediaOutput& channel) { channel.PlayingStatus(PlayingStatus::Cueing); },
-        [](MediaOutput& channel) { channel.SpeedOnAir(Speed(1, 2)); },
-        [](MediaOutput& channel) { channel.GlobalLoopMode(PlayingLoopMode::Bounce); },
-        [&](MediaOutput& channel) { channel.RemainingTime(one); },
-        [](MediaOutput& channel) { channel.CurrentTimePointOnAir(TimePoint(0)); },
-        [](MediaOutput& channel) { channel.TodTimecodeOnAir(timeCode); },
-        [](MediaOutput& channel) { channel.UserTimecodeOnAir(timeCode); },
-        [](MediaOutput& channel) { channel.Sequence(SequenceOutput()); },
-        [](MediaOutput& channel) { channel.InBoundary(std::make_unique<BoundaryRelative>()); },
-        [](MediaOutput& channel) { channel.OutBoundary(std::make_unique<BoundaryRelative>()); },
+        [](auto& channel) { channel.PlayingStatus(PlayingStatus::Cueing); },
+        [](auto& channel) { channel.SpeedOnAir(Speed(1, 2)); },
+        [](auto& channel) { channel.GlobalLoopMode(PlayingLoopMode::Bounce); },
+        [&](auto& channel) { channel.RemainingTime(one); },
+        [](auto& channel) { channel.CurrentTimePointOnAir(TimePoint(0)); },
+        [&](auto& channel) { channel.TodTimecodeOnAir(timeCode); },
+        [&](auto& channel) { channel.UserTimecodeOnAir(timeCode); },
+        [](auto& channel) { channel.Sequence(SequenceOutput()); },
+        [](auto& channel) { channel.InBoundary(std::make_unique<BoundaryRelative>()); },
+        [](auto& channel) { channel.OutBoundary(std::make_unique<BoundaryRelative>()); },
     });
-    EXPECT_EQ(MediaOutput().GetMode(), MediaIO::Mode::Output);
+    SequenceOutput::AssetBlockOutput block;
+    block.MediaAssetRef(std::make_shared<MediaAssets::MediaAsset>());
+    EXPECT_EQ(block, SequenceOutput::AssetBlockOutput()); // by identifier, whatever the object
+    block.Id(Identifier("block"));
+    BaseTypes::SharedReference<BusinessEntityModel::Edits::Sequence> reference(Identifier("sequence"));
+    CheckEquality<SequenceOutput>({
+        [&](auto& sequence) { sequence.SequenceOnAir(reference); },
+        [&](auto& sequence) { sequence.AssetBlockOnAir(block); },
+        [&](auto& sequence) { sequence.NextAssetBlockOnAir(block); },
+        [](auto& sequence) { sequence.EditMode(true); },
+    });
+    using Nodes::Node;
+    const auto make = [](auto... fields) { return [=](Node& node) { node = Node(fields...); }; };
+    using Addresses = std::vector<std::string>;
+    CheckEquality<Node>({
+        make(Identifier("n"), 1, "host", "ip", Addresses{"1", "2"}, "chassis", "revision", "version"),
+        make(Identifier("N"), 1, "host", "ip", Addresses{"1", "2"}, "chassis", "revision", "version"),
+        make(Identifier("n"), 2, "host", "ip", Addresses{"1", "2"}, "chassis", "revision", "version"),
+        make(Identifier("n"), 1, "ip", "host", Addresses{"1", "2"}, "chassis", "revision", "version"),
+        make(Identifier("n"), 1, "host", "", Addresses{"1", "2"}, "chassis", "revision", "version"),
+        make(Identifier("n"), 1, "host", "ip", Addresses{"2", "1"}, "chassis", "revision", "version"),
+        make(Identifier("n"), 1, "host", "ip", Addresses{"1", "2"}, "", "revision", "version"),
+        make(Identifier("n"), 1, "host", "ip", Addresses{"1", "2"}, "chassis", "", "version"),
+        make(Identifier("n"), 1, "host", "ip", Addresses{"1", "2"}, "chassis", "revision", ""),
+    });
+    PelOperatorMetadataProfile profile;
+    const BaseTypes::GenericMetadataProfile generic(profile.FullyQualifiedName());
+    EXPECT_FALSE(profile == generic || generic == profile);
+    EXPECT_EQ(*profile.Clone(), profile);
+    CheckEquality<PelOperatorMetadataProfile>({
+        [](auto& changed) { changed.ServerId(10); },
+        [](auto& changed) { changed.Index(-1); },
+    });
 }
 
 TEST(MediaOutput, OwnsTwoBoundariesThatAreNeverNull)
@@ -194,69 +207,6 @@ TEST(MediaOutput, OwnsTwoBoundariesThatAreNeverNull)
     EXPECT_EQ(*channel.InBoundary(), BoundaryAbsolute());
     channel.OutBoundary(std::make_unique<ForeignBoundary>(BoundaryOrigin::Absolute));
     EXPECT_EQ(*MediaOutput(channel).OutBoundary(), BoundaryAbsolute()); // it has no clone
-}
-
-TEST(SequenceOutput, IsEqualFieldByField)
-{
-    SequenceOutput::AssetBlockOutput block;
-    block.MediaAssetRef(std::make_shared<MediaAssets::MediaAsset>());
-    EXPECT_EQ(block, SequenceOutput::AssetBlockOutput()); // by identifier, whatever the object
-    block.Id(Identifier("block"));
-    BaseTypes::SharedReference<BusinessEntityModel::Edits::Sequence> reference(Identifier("sequence"));
-    std::vector<SequenceOutput> different(5);
-    different[1].SequenceOnAir(reference);
-    different[2].AssetBlockOnAir(block);
-    different[3].NextAssetBlockOnAir(block);
-    different[4].EditMode(true);
-    for (const auto& left : different)
-    {
-        for (const auto& right : different)
-            EXPECT_EQ(left == right, &left == &right) << &left - &different[0] << ' ' << &right - &different[0];
-    }
-    different[3].NextAssetBlockOnAir().Undefine();
-    EXPECT_EQ(different[3], different[0]);
-}
-
-TEST(PelOperatorMetadataProfile, IsEqualToOperatorProfilesAlone)
-{
-    PelOperatorMetadataProfile profile;
-    EXPECT_EQ(profile.ToString(), "qiv.peloperator");
-    EXPECT_EQ(profile.ServerId(), 0);
-    EXPECT_EQ(profile.Index(), 0);
-    const auto clone = profile.Clone();
-    EXPECT_EQ(*clone, profile);
-    profile.ServerId(10);
-    EXPECT_NE(*clone, profile);
-    profile.ServerId(0);
-    profile.Index(-1);
-    EXPECT_NE(*clone, profile);
-    const BaseTypes::GenericMetadataProfile generic(profile.FullyQualifiedName());
-    EXPECT_FALSE(profile == generic);
-    EXPECT_FALSE(generic == profile);
-}
-
-TEST(Node, IsEqualFieldByField)
-{
-    const std::vector<std::string> gbe = {"10.0.0.1", "10.0.0.2"};
-    using Nodes::Node;
-    const std::vector<Node> different = {
-        Node({"n"}, 1, "host", "ip", gbe, "chassis", "revision", "version"),
-        Node({"N"}, 1, "host", "ip", gbe, "chassis", "revision", "version"),
-        Node({"n"}, 2, "host", "ip", gbe, "chassis", "revision", "version"),
-        Node({"n"}, 1, "ip", "host", gbe, "chassis", "revision", "version"),
-        Node({"n"}, 1, "host", "", gbe, "chassis", "revision", "version"),
-        Node({"n"}, 1, "host", "ip", {"10.0.0.2", "10.0.0.1"}, "chassis", "revision", "version"),
-        Node({"n"}, 1, "host", "ip", gbe, "", "revision", "version"),
-        Node({"n"}, 1, "host", "ip", gbe, "chassis", "", "version"),
-        Node({"n"}, 1, "host", "ip", gbe, "chassis", "revision", ""),
-        Node(),
-    };
-    for (std::size_t i = 0; i < different.size(); ++i)
-    {
-        for (std::size_t j = 0; j < different.size(); ++j)
-            EXPECT_EQ(different[i] == different[j], i == j) << i << ' ' << j;
-    }
-    EXPECT_EQ(Node(), Node({}, Node::UndefinedSerialNumber(), "", "", {}, "", "", ""));
 }
 
 } // namespace

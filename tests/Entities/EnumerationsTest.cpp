@@ -7,12 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <cstdlib>
-#include <limits>
-#include <string>
-#include <string_view>
-#include <type_traits>
 #include <vector>
 
 namespace Qiv::DataModel::Tarvonel::MediaIOs
@@ -44,8 +39,7 @@ void Check(const std::vector<std::string>& texts, Enumeration (&convert)(const s
             EXPECT_EQ(read, fallback) << wrong;
         }
     }
-    using Limits = std::numeric_limits<std::int32_t>;
-    for (const auto value : {-1, static_cast<std::int32_t>(texts.size()), Limits::min(), Limits::max()})
+    for (const auto value : {-1, static_cast<std::int32_t>(texts.size()), INT32_MIN, INT32_MAX})
         EXPECT_EQ(ToString(static_cast<Enumeration>(value)), "Unknown") << value;
     EXPECT_EQ(convert(""), fallback);
     EXPECT_EQ(To<Enumeration>("no such word"), fallback);

@@ -6,13 +6,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
-#include <limits>
 #include <random>
 #include <regex>
-#include <stdexcept>
-#include <string>
-#include <type_traits>
 #include <vector>
 
 namespace Qiv::DataModel::Tarvonel::MediaIOs
@@ -86,7 +81,7 @@ TEST(Speed, GivesPercentWithinThe32BitRange)
     EXPECT_EQ(Speed(-1, 200).ToRoundedPercent(), -1);
 }
 
-TEST(SpeedParser, ReadsWhatTheFormatterWrites)
+TEST(SpeedParser, ReadsWhatTheFormatterWritesAndNothingElse)
 {
     Parser::SpeedParser parser;
     for (const auto& speed : Speeds())
@@ -95,13 +90,7 @@ TEST(SpeedParser, ReadsWhatTheFormatterWrites)
         EXPECT_EQ(read.Numerator(), speed.Numerator()) << speed.ToString();
         EXPECT_EQ(read.Denominator(), speed.Denominator()) << speed.ToString();
     }
-    EXPECT_EQ(Speed(-3, 2).ToString(), "-3/2");
     EXPECT_EQ(Speed(INT32_MIN, UINT32_MAX).ToString(), "-2147483648/4294967295");
-}
-
-TEST(SpeedParser, RefusesEveryOtherText)
-{
-    const Parser::SpeedParser parser;
     for (const std::string text : {"", "+1/2", "1/+2", " 1/2", "1/ 2", "1/2 ", "1.0/2", "0x1/2", "1:2", "2147483648/1",
                                    "-2147483649/1", "1/4294967296"})
     {

@@ -8,8 +8,6 @@
 #include <random>
 #include <regex>
 #include <sstream>
-#include <stdexcept>
-#include <vector>
 
 namespace Qiv::TimePoints
 {
@@ -130,48 +128,30 @@ struct RefusingParser : QivTimeCodeParser
 
 TEST(QivTimeCodeParser, GivesTheKnownOutcomes)
 {
-    const auto format = [](const std::string& text)
-    { return "invalid argument: QivTimeCodeParser the string '" + text + "' has not the expected format."; };
+    const std::string million(1000000, '0');
     const std::pair<std::string, std::string> outcomes[] = {
         {"10:00:00:00@25", "-1-0-1-0-1T10:00:00:00@25 #55225620000"},
         {"1970-01-01T00:01:00;02@30", "1970-01-01T00:01:00;02@30 #66203396136"},
         {"2261-12-31T23:59:59:24@25", "2261-12-31T23:59:59:24@25 #285590879999"},
-        {"00:00:00:00@0", "out of range: Sample 0 is greater than numerator ratio 0"},
-        {"24:00:00:00@25", "out of range: hour 24 must be between 0 and 23"},
-        {"1899-12-31T00:00:00:00@25", "out of range: year 1899 must be between 1900 and 2261"},
-        {"2016-02-30T00:00:00:00@25", "out of range: day 30is negative or greater than 29 in month 2"},
         {"00:01:00;00@30", "out of range: In dropped TimeCode, this value doesn't exist 1:0;0"},
-        {"00:00:00;00@25", "out of range: Rate 25 / 1 is not compatible with drop TC format"},
         {"29:00:00:99@2147483648", "out of range: stoi"}, // before the hour
-        {"0999-01-01T00:00:00:00@25", format("0999-01-01T00:00:00:00@25")},
-        {"10:00:00.00@25", format("10:00:00.00@25")},
-        {"10:00:00:0@25", format("10:00:00:0@25")},
-        {"10:00:00:00", format("10:00:00:00")},
-        {" 10:00:00:00@25", format(" 10:00:00:00@25")},
-        {"10:00:00:00@25\n", format("10:00:00:00@25\n")},
-        {"-1-0-1-0-1T10:00:00:00@25", format("-1-0-1-0-1T10:00:00:00@25")},
-        {"", format("")}};
+        {"00:00:00:00@1" + million, "out of range: stoi"},
+        {"00:00:00:00@" + million + "25", Outcome("00:00:00:00@25")},
+        {"10:00:00:0@25",
+         "invalid argument: QivTimeCodeParser the string '10:00:00:0@25' has not the expected format."},
+        {million, "invalid argument: QivTimeCodeParser the string '" + million + "' has not the expected format."}};
     for (const auto& [text, outcome] : outcomes)
         EXPECT_EQ(Outcome(text), outcome);
     const QivTimeCodeParser parser;
+    EXPECT_THROW(parser.IsStringFormatValid("00:00:00:00@1" + million), std::out_of_range);
+    EXPECT_FALSE(parser.TryParse("00:00:00:00@1" + million).first);
     EXPECT_EQ(TimeCode::Parse("10:00:00:00@25", parser).ToString(QivTimeCodeFormatter()), "-1-0-1-0-1T10:00:00:00@25");
     EXPECT_EQ(RefusingParser().TryParse("10:00:00:00@25"), std::pair(false, TimeCode::Empty()));
     EXPECT_EQ(parser.StringToInt(" -12x"), -12);
     EXPECT_THROW(parser.StringToInt("x"), std::invalid_argument);
-}
-
-TEST(QivTimeCodeParser, ReadsVeryLongTextsAndRatesBeyondTheRange)
-{
-    const std::string million(1000000, '0');
-    EXPECT_EQ(Outcome("00:00:00:00@" + million + "25"), Outcome("00:00:00:00@25"));
-    EXPECT_EQ(Outcome("00:00:00:00@1" + million), "out of range: stoi");
-    EXPECT_THROW(QivTimeCodeParser().IsStringFormatValid("00:00:00:00@1" + million), std::out_of_range);
-    EXPECT_FALSE(QivTimeCodeParser().TryParse("00:00:00:00@1" + million).first);
-    EXPECT_EQ(Outcome("00:00:00:00@1" + million + "x").substr(0, 16), "invalid argument");
-    EXPECT_EQ(Outcome(million).substr(0, 16), "invalid argument");
     // Modulo 2^64.
     const auto seconds = static_cast<std::uint64_t>(TimeCode::DateToDays(2261, 12, 31) * 86400 + 86399);
-    EXPECT_EQ(TimeCode::Parse("2261-12-31T23:59:59:00@2147483647", QivTimeCodeParser()).TotalSample(),
+    EXPECT_EQ(TimeCode::Parse("2261-12-31T23:59:59:00@2147483647", parser).TotalSample(),
               static_cast<std::int64_t>(seconds * 2147483647));
 }
 
