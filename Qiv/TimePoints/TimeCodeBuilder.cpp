@@ -14,43 +14,34 @@ using Details::Check;
 bool TimeCodeBuilder::IsValidToBuildWithexception() const
 {
     using std::to_string;
-    const auto fail = [](const std::string& text) { throw std::out_of_range(text); };
     switch (Details::FirstFailedCheck(Fields()))
     {
     case Check::Year:
-        fail("year " + to_string(year_) + " must be between " + to_string(Details::minimumYear) + " and " +
-             to_string(Details::maximumYear));
-        break;
+        throw std::out_of_range("year " + to_string(year_) + " must be between " + to_string(Details::minimumYear) +
+                                " and " + to_string(Details::maximumYear));
     case Check::Month:
-        fail("month " + to_string(month_) + " must be between 1 and 12");
-        break;
+        throw std::out_of_range("month " + to_string(month_) + " must be between 1 and 12");
     case Check::Day: // no blank after the number: the text is known by that
-        fail("day " + to_string(day_) + "is negative or greater than " +
-             to_string(CalendarTools::DayPerMonth(year_, month_)) + " in month " + to_string(month_));
-        break;
+        throw std::out_of_range("day " + to_string(day_) + "is negative or greater than " +
+                                to_string(CalendarTools::DayPerMonth(year_, month_)) + " in month " +
+                                to_string(month_));
     case Check::Hour:
-        fail("hour " + to_string(hour_) + " must be between 0 and 23");
-        break;
+        throw std::out_of_range("hour " + to_string(hour_) + " must be between 0 and 23");
     case Check::Minute:
-        fail("minute " + to_string(minute_) + " must be between 0 and 59");
-        break;
+        throw std::out_of_range("minute " + to_string(minute_) + " must be between 0 and 59");
     case Check::Second:
-        fail("second " + to_string(second_) + " must be between 0 and 59");
-        break;
+        throw std::out_of_range("second " + to_string(second_) + " must be between 0 and 59");
     case Check::Denominator:
-        fail("Denominator " + to_string(rate_.Denominator()) + " must be between equals to 1");
-        break;
+        throw std::out_of_range("Denominator " + to_string(rate_.Denominator()) + " must be between equals to 1");
     case Check::Sample: // "greater", though equal fails too
-        fail("Sample " + to_string(sample_) + " is greater than numerator ratio " + to_string(rate_.Numerator()));
-        break;
+        throw std::out_of_range("Sample " + to_string(sample_) + " is greater than numerator ratio " +
+                                to_string(rate_.Numerator()));
     case Check::DropLabel:
-        fail("In dropped TimeCode, this value doesn't exist " + to_string(minute_) + ":" + to_string(second_) + ";" +
-             to_string(sample_));
-        break;
+        throw std::out_of_range("In dropped TimeCode, this value doesn't exist " + to_string(minute_) + ":" +
+                                to_string(second_) + ";" + to_string(sample_));
     case Check::DropRate:
-        fail("Rate " + to_string(rate_.Numerator()) + " / " + to_string(rate_.Denominator()) +
-             " is not compatible with drop TC format");
-        break;
+        throw std::out_of_range("Rate " + to_string(rate_.Numerator()) + " / " + to_string(rate_.Denominator()) +
+                                " is not compatible with drop TC format");
     case Check::None:
         break;
     }
