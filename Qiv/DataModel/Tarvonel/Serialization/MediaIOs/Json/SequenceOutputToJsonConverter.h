@@ -18,8 +18,8 @@ class QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT SequenceOutputToJsonConverter
 public:
     /// Writes the time points of embedded media assets with a `TimePointToJsonObjectConverter` of its own.
     SequenceOutputToJsonConverter();
-    /// Writes the time points of embedded media assets with `timepointConverter`; an empty pointer stands for the default
-    /// writer.
+    /// Writes the time points of embedded media assets with `timepointConverter`; an empty pointer stands for the
+    /// default writer.
     explicit SequenceOutputToJsonConverter(SharedTimePointWriter timepointConverter);
     SequenceOutputToJsonConverter(const SequenceOutputToJsonConverter&) = default;
     SequenceOutputToJsonConverter& operator=(const SequenceOutputToJsonConverter&) = default;
