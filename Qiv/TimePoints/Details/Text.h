@@ -15,7 +15,7 @@ inline constexpr char digitPairs[] = "000102030405060708091011121314151617181920
 
 inline char* WriteTwoDigits(std::uint32_t value, char* out) noexcept // value below 100
 {
-    std::memcpy(out, digitPairs + 2 * value, 2);
+    std::memcpy(out, digitPairs + std::size_t{2} * value, 2);
     return out + 2;
 }
 

@@ -15,7 +15,7 @@ MediaOutput::OwnedBoundary::OwnedBoundary(const OwnedBoundary& other)
     Pointer(other.pointer_->Clone());
 }
 
-MediaOutput::OwnedBoundary::OwnedBoundary(OwnedBoundary&& other) : OwnedBoundary()
+MediaOutput::OwnedBoundary::OwnedBoundary(OwnedBoundary&& other) noexcept(false) : OwnedBoundary()
 {
     pointer_.swap(other.pointer_);
 }
@@ -33,9 +33,9 @@ void MediaOutput::OwnedBoundary::Pointer(std::unique_ptr<Boundary>&& pointer)
 
 MediaOutput::MediaOutput() = default;
 MediaOutput::MediaOutput(const MediaOutput&) = default;
-MediaOutput::MediaOutput(MediaOutput&&) = default;
+MediaOutput::MediaOutput(MediaOutput&&) noexcept(false) = default;
 MediaOutput& MediaOutput::operator=(const MediaOutput&) = default;
-MediaOutput& MediaOutput::operator=(MediaOutput&&) = default;
+MediaOutput& MediaOutput::operator=(MediaOutput&&) noexcept(false) = default;
 MediaOutput::~MediaOutput() = default;
 
 MediaIO::Mode MediaOutput::GetMode() const

@@ -32,9 +32,9 @@ class QIV_DATAMODEL_TARVONEL_EXPORT MediaOutput : public MediaIO
 public:
     MediaOutput();
     MediaOutput(const MediaOutput&);
-    MediaOutput(MediaOutput&&); // NOLINT(performance-noexcept-move-constructor): allocates, see above
+    MediaOutput(MediaOutput&&) noexcept(false);
     MediaOutput& operator=(const MediaOutput&);
-    MediaOutput& operator=(MediaOutput&&); // NOLINT(performance-noexcept-move-constructor)
+    MediaOutput& operator=(MediaOutput&&) noexcept(false);
     ~MediaOutput() override;
 
     /// Always `Output`.
@@ -96,7 +96,7 @@ private:
     public:
         OwnedBoundary();
         OwnedBoundary(const OwnedBoundary& other);
-        OwnedBoundary(OwnedBoundary&& other); // NOLINT(performance-noexcept-move-constructor)
+        OwnedBoundary(OwnedBoundary&& other) noexcept(false);
         OwnedBoundary& operator=(OwnedBoundary other) noexcept;
 
         const std::unique_ptr<Boundary>& Pointer() const noexcept { return pointer_; }

@@ -28,7 +28,9 @@ namespace
 // An object that holds only common members is a valid channel.
 Result UnlessEmpty(Result result, const char* emptyMessage)
 {
-    return !result && std::strcmp(result.ErrorMessage(), emptyMessage) == 0 ? Result() : result;
+    if (!result && std::strcmp(result.ErrorMessage(), emptyMessage) == 0)
+        return {};
+    return result;
 }
 
 } // namespace
