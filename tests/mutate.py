@@ -1,9 +1,7 @@
 #!/usr/bin/env python3
 """Changes the sources mechanically, one change at a time, and reports the changes that no related test notices.
 
-All happens in a copy of the tree, build/mutate/now, which is put back after each change together with its object
-files, so that a change costs no more than its own compilation. A survivor is either a gap in the tests or a change
-that makes no difference; which of the two, the reader decides.
+A survivor is either a gap in the tests or a change that makes no difference; which of the two, the reader decides.
 """
 import argparse
 import os
@@ -12,12 +10,13 @@ import random
 import re
 import resource
 import shutil
-import signal
 import subprocess
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-NOW, KEPT = ROOT / "build/mutate/now", ROOT / "build/mutate/kept"  # what is changed, and what it is put back to
+# The copy that is changed, and what it is put back to after each change together with its object files: so a change
+# costs no more than its own compilation.
+NOW, KEPT = ROOT / "build/mutate/now", ROOT / "build/mutate/kept"
 
 # The programs that test a folder, nearest first; the first pattern that fits counts.
 RELATED = {
@@ -46,9 +45,9 @@ CHANGES = [  # what is looked for in code, and what comes in its place
 ]
 
 
+# All (name, position, end, replacement) of a file.
 def changes(name):
-    """All (name, position, end, replacement) of a file."""
-    text = (ROOT / name).read_text()
+    text = (KEPT / name).read_text()
     code = TEXT.sub(lambda m: m[0][0] + "\0" * (len(m[0]) - 2) + m[0][-1] if m[0][0] in "\"'" else " " * len(m[0]), text)
     barred = [match.span() for match in UNTOUCHED.finditer(text)]
     for pattern, replace in CHANGES:
@@ -64,15 +63,10 @@ def put_back():
             shutil.copy2(kept, now)
 
 
+# Whether a command ends well in time; what it started is ended with it.
 def run(timeout, *command):
-    """Whether a command ends well in time; what it started is ended with it."""
-    process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                               stderr=subprocess.DEVNULL, start_new_session=True)
-    try:
-        return process.wait(timeout) == 0
-    except subprocess.TimeoutExpired:
-        os.killpg(process.pid, signal.SIGKILL)
-        return process.wait() == 0
+    nowhere = dict.fromkeys(("stdin", "stdout", "stderr"), subprocess.DEVNULL)
+    return subprocess.run(["timeout", "-s", "KILL", str(timeout), *command], **nowhere).returncode == 0
 
 
 def build(*targets):
@@ -90,12 +84,12 @@ def copy_if_different(source, target):
         shutil.copy(source, target)
 
 
+# Copies and builds the tree, from what the last run left; gives the seconds that each program may take.
 def prepare():
-    """Copies and builds the tree, from what the last run left; gives the seconds that each program may take."""
-    programs = sorted(set(sum(RELATED.values(), [])))
     put_back()
     shutil.copytree(ROOT, NOW, ignore=shutil.ignore_patterns(".git", "build*", "corpus", "results"),
                     copy_function=copy_if_different, dirs_exist_ok=True)
+    programs = sorted(set(sum(RELATED.values(), [])))
     if not run(300, "cmake", "-S", NOW, "-B", NOW / "build", "-G", "Ninja", "-DCMAKE_CXX_FLAGS=-O0 -w",
                "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON") or not build(*programs):
         raise SystemExit("mutate: the unchanged sources do not build")
@@ -119,7 +113,7 @@ def outcome(name, limits):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("count", nargs="?", type=int, default=80, help="how many changes (80)")
     parser.add_argument("--seed", type=int, default=1, help="which changes (1)")
     parser.add_argument("--path", default="", help="a regular expression that the paths of the changed files have")
@@ -127,11 +121,11 @@ def main():
     os.environ["TARVONEL_JSON"] = str(NOW / "build/bin/tarvonel-json")
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
     resource.setrlimit(resource.RLIMIT_AS, (4 << 30, 4 << 30))
-    names = sorted(str(path.relative_to(ROOT)) for top in ("Qiv", "tools") for path in (ROOT / top).rglob("*.[ch]*"))
+    limits = prepare()
+    names = sorted(str(path.relative_to(KEPT)) for top in ("Qiv", "tools") for path in (KEPT / top).rglob("*.[ch]*"))
     every = [change for name in names if re.search(arguments.path, name) for change in changes(name)]
     chosen = random.Random(arguments.seed).sample(every, min(arguments.count, len(every)))
     print(f"{len(chosen)} of {len(every)} possible changes", flush=True)
-    limits = prepare()
     outcomes = []
     for name, first, last, replacement in chosen:
         text = (KEPT / name).read_text()

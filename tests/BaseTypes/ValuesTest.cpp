@@ -253,6 +253,7 @@ TEST(SortedVectorOfPointers, OrdersByTheObjectsNullFirstAndRefusesExpiredOnes)
     EXPECT_EQ(weak.Front().lock(), five);
     EXPECT_EQ(ThrownText<std::runtime_error>([&] { weak.Insert(otherFive); }), duplicateText);
     EXPECT_EQ(ThrownText<std::runtime_error>([&] { weak.Insert(std::weak_ptr<int>()); }), expiredText);
+    EXPECT_THROW(CompareEqualWeakPointer()(std::weak_ptr<int>(five), std::weak_ptr<int>()), std::runtime_error);
     pointers.Clear(), others.Clear(), seven.reset();
     EXPECT_EQ(ThrownText<std::runtime_error>([&] { static_cast<void>(weak == weak); }), expiredText);
     EXPECT_EQ(ThrownText<std::runtime_error>([&] { weak.Sort(); }), expiredText);

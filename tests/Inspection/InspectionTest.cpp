@@ -342,8 +342,17 @@ TEST(InspectDocument, NamesKindPlaceAndReadersText)
                 .append(finding.readerMessage.empty() ? "" : " -> " + finding.readerMessage);
         EXPECT_EQ(found, expected) << document;
     }
-    const auto sentence = InspectDocument(Parse(R"({"_type": "MediaInput", "recordingStatus": "Stop\n"})"))[0].sentence;
-    EXPECT_EQ(sentence, R"("Stop\n" is none of Idle, Pause, Recording; it is read as Idle)");
+    std::string sentences;
+    for (const auto& finding : InspectDocument(Parse(R"({"_type": "MediaInput", "recordingStatus": "Stop\n", "name": 5,
+             "metadata": {"a": "1", "a.b": 1, "qiv.peloperatorX.y": "z"}, "mediaAssetOnAir": {"id": 5}})")))
+        sentences += finding.sentence + '\n';
+    EXPECT_EQ(sentences, R"(is an integer of 32 bits, where a string belongs; it is skipped
+is no string; its text is read, "5"
+"a" has no dot and so belongs to no profile; it is skipped
+is no string, as all metadata but the operator's are; it is skipped
+"qiv.peloperatorX.y" is in the namespace of the operator profile; it is skipped
+"Stop\n" is none of Idle, Pause, Recording; it is read as Idle
+)");
 }
 
 TEST(ReadText, TellsWhatIsWrongAndWhere)
