@@ -86,6 +86,22 @@ void Read(const std::string& text, Entity& entity)
         throw std::runtime_error(result.ErrorMessage());
 }
 
+template <typename Reader, typename Entity>
+Entity FromText(const std::string& text)
+{
+    Entity entity{};
+    Read<Reader>(text, entity);
+    return entity;
+}
+
+inline std::string ReplacedAll(std::string text, const std::string& from, const std::string& to)
+{
+    for (auto position = text.find(from); position != std::string::npos;
+         position = text.find(from, position + to.size()))
+        text.replace(position, from.size(), to);
+    return text;
+}
+
 // Documents with every member, as their writers write them.
 
 inline const std::string fullAsset =

@@ -1,20 +1,16 @@
 #pragma once
 
+#include "Conversions.h"
+
 #include <Qiv/BusinessEntityModel/BaseTypes/GenericMetadataProfile.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryAbsolute.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryRelative.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaInput.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaOutput.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/PelOperatorMetadataProfile.h>
-#include <Qiv/DataModel/Tarvonel/Nodes/Node.h>
 
 #include <algorithm>
-#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <random>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace Qiv::Tests
@@ -25,9 +21,6 @@ namespace Qiv::Tests
 /// reading: it holds nothing that the JSON form leaves out or refuses, such as a time code without date.
 class ModelGenerator
 {
-    template <typename T>
-    using SharedReference = BusinessEntityModel::BaseTypes::SharedReference<T>;
-
 public:
     explicit ModelGenerator(std::uint32_t seed) : random_(seed) {}
 
@@ -47,40 +40,19 @@ public:
     /// Well-formed UTF-8 without NUL and without dot; one in four is empty.
     std::string Text()
     {
-        static const std::vector<std::string> pieces = {"a",
-                                                        "Z",
-                                                        "0",
-                                                        " ",
-                                                        "\"",
-                                                        "\\",
-                                                        "/",
-                                                        "{",
-                                                        "\n",
-                                                        "\t",
-                                                        "\x01",
-                                                        "\x1f",
-                                                        "\b",
-                                                        "\x7f",
-                                                        "\xC2\x80",
-                                                        "\xC3\xA9",
-                                                        "\xE2\x82\xAC",
-                                                        "\xEF\xBF\xBF",
-                                                        "Camera",
-                                                        "\xF0\x9F\x8E\xA5",
-                                                        "\xF4\x8F\xBF\xBF"};
+        static const auto pieces =
+            Parse(R"(["a", "Z", "0", " ", "\"", "\\", "/", "{", "\n", "\t", "\u0001", "\u001f", "\b", "\u007f",
+                      "\u0080", "\u00e9", "\u20ac", "\uffff", "Camera", "\ud83c\udfa5", "\udbff\udfff"])");
         std::string text;
         for (auto count = Chance(4) ? 0 : Below(Chance(20) ? 300 : 12); count > 0; --count)
-            text += pieces[Below(static_cast<std::uint32_t>(pieces.size()))];
+            text += pieces[Below(pieces.size())].asString();
         return text;
     }
 
-    TimePoints::TimePoint MakeTimePoint()
-    {
-        return Chance(4) ? TimePoints::TimePoint::Empty() : TimePoints::TimePoint(Number64());
-    }
+    TimePoint MakeTimePoint() { return Chance(4) ? TimePoint::Empty() : TimePoint(Number64()); }
 
     /// A time code with date that its text can hold.
-    TimePoints::TimeCode MakeTimeCode()
+    TimeCode MakeTimeCode()
     {
         static constexpr std::int32_t rates[] = {1, 24, 25, 30, 48, 50, 60, 100, 120, INT32_MAX};
         const auto rate = rates[Below(std::size(rates))];
@@ -97,9 +69,9 @@ public:
                 second, frame,         TimePoints::Rate(rate), isDrop};
     }
 
-    DataModel::MediaAssets::MediaAsset MakeMediaAsset()
+    MediaAsset MakeMediaAsset()
     {
-        DataModel::MediaAssets::MediaAsset asset;
+        MediaAsset asset;
         asset.Id(Text());
         asset.Name(Text());
         asset.InPoint(MakeTimePoint());
@@ -107,27 +79,24 @@ public:
         return asset;
     }
 
-    SharedReference<DataModel::MediaAssets::MediaAsset> MakeMediaAssetReference()
+    SharedReference<MediaAsset> MakeMediaAssetReference()
     {
         if (Chance())
-            return SharedReference<DataModel::MediaAssets::MediaAsset>(Text());
-        return std::make_shared<DataModel::MediaAssets::MediaAsset>(MakeMediaAsset());
+            return SharedReference<MediaAsset>(Text());
+        return std::make_shared<MediaAsset>(MakeMediaAsset());
     }
 
-    DataModel::Tarvonel::MediaIOs::Speed MakeSpeed() { return {Number32(), static_cast<std::uint32_t>(Number64())}; }
+    Speed MakeSpeed() { return {Number32(), static_cast<std::uint32_t>(Number64())}; }
 
-    std::unique_ptr<DataModel::Tarvonel::MediaIOs::Boundary> MakeBoundary()
+    std::unique_ptr<Boundary> MakeBoundary()
     {
-        using namespace DataModel::Tarvonel::MediaIOs;
         if (Chance())
             return std::make_unique<BoundaryAbsolute>(MakeTimePoint());
         return std::make_unique<BoundaryRelative>(static_cast<BoundaryOrigin>(1 + Below(3)), Number32());
     }
 
-    DataModel::Tarvonel::MediaIOs::SequenceOutput MakeSequenceOutput()
+    SequenceOutput MakeSequenceOutput()
     {
-        using BusinessEntityModel::Edits::Sequence;
-        using DataModel::Tarvonel::MediaIOs::SequenceOutput;
         const auto block = [this]
         {
             SequenceOutput::AssetBlockOutput made;
@@ -148,36 +117,34 @@ public:
         return output;
     }
 
-    DataModel::Tarvonel::MediaIOs::MediaInput MakeMediaInput()
+    MediaInput MakeMediaInput()
     {
-        using namespace DataModel::Tarvonel::MediaIOs;
         MediaInput channel;
         FillCommon(channel);
         channel.RecordingStatus(static_cast<RecordingStatus>(Below(3)));
         channel.LastTimePoint(MakeTimePoint());
         channel.LastTodTimecode(MakeTimeCode());
         channel.LastUserTimecode(MakeTimeCode());
-        channel.PrimaryTimecodeType(static_cast<DataModel::MediaAssets::TimecodePrimary>(Below(3)));
-        TimePoints::Duration remaining(Number64());
-        channel.TotalCapacity(TimePoints::Duration(Number64()));
+        channel.PrimaryTimecodeType(static_cast<TimecodePrimary>(Below(3)));
+        Duration remaining(Number64());
+        channel.TotalCapacity(Duration(Number64()));
         channel.RemainingCapacity(remaining);
         return channel;
     }
 
-    DataModel::Tarvonel::MediaIOs::MediaOutput MakeMediaOutput()
+    MediaOutput MakeMediaOutput()
     {
-        using namespace DataModel::Tarvonel::MediaIOs;
         MediaOutput channel;
         FillCommon(channel);
         channel.PlayingStatus(static_cast<PlayingStatus>(Below(6)));
         channel.SpeedOnAir(MakeSpeed());
         channel.GlobalLoopMode(static_cast<PlayingLoopMode>(Below(4)));
-        TimePoints::Duration remaining(Number64());
+        Duration remaining(Number64());
         channel.RemainingTime(remaining);
         channel.CurrentTimePointOnAir(MakeTimePoint());
         channel.TodTimecodeOnAir(MakeTimeCode());
         channel.UserTimecodeOnAir(MakeTimeCode());
-        channel.PrimaryTimecodeType(static_cast<DataModel::MediaAssets::TimecodePrimary>(Below(3)));
+        channel.PrimaryTimecodeType(static_cast<TimecodePrimary>(Below(3)));
         if (Chance())
             channel.Sequence(MakeSequenceOutput());
         channel.InBoundary(MakeBoundary());
@@ -185,7 +152,7 @@ public:
         return channel;
     }
 
-    DataModel::Tarvonel::Nodes::Node MakeNode()
+    Node MakeNode()
     {
         std::vector<std::string> addresses(Below(4));
         std::generate(addresses.begin(), addresses.end(), [this] { return Text(); });
@@ -194,19 +161,17 @@ public:
     }
 
 private:
-    void FillCommon(DataModel::Tarvonel::MediaIOs::MediaIO& channel)
+    void FillCommon(MediaIO& channel)
     {
-        using BusinessEntityModel::BaseTypes::FullyQualifiedName;
-        using BusinessEntityModel::BaseTypes::GenericMetadataProfile;
         channel.Id(Text());
         channel.Name(Text());
         channel.MediaAssetOnAir(MakeMediaAssetReference());
         if (Chance())
         {
-            DataModel::Tarvonel::MediaIOs::PelOperatorMetadataProfile profile;
-            profile.ServerId(static_cast<std::int32_t>(Below(1000)) * 10);
-            profile.Index(Number32() & INT32_MAX);
-            channel.Metadata().Set(std::make_shared<decltype(profile)>(profile));
+            const auto profile = std::make_shared<PelOperatorMetadataProfile>();
+            profile->ServerId(static_cast<std::int32_t>(Below(1000)) * 10);
+            profile->Index(Number32() & INT32_MAX);
+            channel.Metadata().Set(profile);
         }
         for (auto count = Below(3); count > 0; --count)
         {

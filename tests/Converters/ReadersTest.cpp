@@ -37,14 +37,6 @@ std::vector<std::string> Split(const std::string& text, const std::string& separ
     return parts;
 }
 
-std::string ReplacedAll(std::string text, const std::string& from, const std::string& to)
-{
-    for (auto position = text.find(from); position != std::string::npos;
-         position = text.find(from, position + to.size()))
-        text.replace(position, from.size(), to);
-    return text;
-}
-
 std::vector<std::string> Expanded(const std::string& table)
 {
     const std::pair<const char*, std::string> names[] = {
@@ -129,7 +121,7 @@ TEST(JsonToTimePointConverter, ReadsWholeNumbersOf64Bits)
         R"({"value":42})", empties + "TimePoint is empty" + others + "TimePoint expected" + R"TABLE(
 {"value":%<""|" 1"|"1 "|"1.0"|"+-1"|"-"|"9223372036854775808"|9223372036854775808|1.5|null|true|[1]|{}>} !! Invalid TimePoint value
 {"_type":"TimePoint"} !! Invalid TimePoint value
-{"_type":"TimePoint","value":"%<0|-9223372036854775808|9223372036854775807>"} >> {"_type":"TimePoint","value":"%%"}
+{"_type":"TimePoint","value":"%<0|99999999|100000000|-9223372036854775808|9223372036854775807>"} >> {"_type":"TimePoint","value":"%%"}
 {"_type":5,"value":%<0|-9223372036854775808|9223372036854775807>} >> {"_type":"TimePoint","value":"%%"}
 {"value":"+5","x":1} >> {"_type":"TimePoint","value":"5"}
 )TABLE");

@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <type_traits>
 #include <vector>
 
 namespace Qiv::Tests
@@ -55,47 +56,38 @@ TEST(Converters, KeepEveryEntityOfTheModel)
 }
 
 // Each thread has its targets; the converters, and what they make on first use, are shared.
+// Each thread has its targets; the converters, and what they make on first use, are shared.
 TEST(Converters, ServeEightThreads)
 {
     const JsonToMediaIOConverter channelReader;
     const MediaIOToJsonConverter channelWriter(std::make_shared<TimePointToJsonObjectConverter>());
     const JsonToNodeConverter nodeReader;
     const NodeToJsonConverter nodeWriter;
-    std::vector<std::string> texts(8);
-    std::vector<std::thread> threads;
-    for (auto& text : texts)
+    std::string texts[9];
+    const auto keep = [](std::string& text, const auto& entity, const auto& reader, const auto& writer)
     {
-        threads.emplace_back(
-            [&]
-            {
-                for (std::uint32_t seed = 0; seed < 60; ++seed)
-                {
-                    ModelGenerator generator(seed);
-                    MediaOutput output;
-                    MediaInput input;
-                    Node node;
-                    const bool succeed =
-                        channelReader.To(Parse(Written(generator.MakeMediaOutput(), channelWriter)), output) &&
-                        channelReader.To(Parse(Written(generator.MakeMediaInput(), channelWriter)), input) &&
-                        nodeReader.To(Parse(Written(generator.MakeNode(), nodeWriter)), node);
-                    text += Written(output, channelWriter) + Written(input, channelWriter) + Written(node, nodeWriter) +
-                            (succeed ? "\n" : "failed\n");
-                }
-            });
-    }
+        std::decay_t<decltype(entity)> read;
+        const auto written = Written(entity, writer);
+        text += reader.To(Parse(written), read) && read == entity ? Written(read, writer) : "failed on " + written;
+    };
+    const auto work = [&](std::string& text)
+    {
+        for (std::uint32_t seed = 0; seed < 60; ++seed)
+        {
+            ModelGenerator generator(seed);
+            keep(text, generator.MakeMediaOutput(), channelReader, channelWriter);
+            keep(text, generator.MakeMediaInput(), channelReader, channelWriter);
+            keep(text, generator.MakeNode(), nodeReader, nodeWriter);
+        }
+    };
+    std::vector<std::thread> threads;
+    for (auto text = std::next(std::begin(texts)); text != std::end(texts); ++text)
+        threads.emplace_back(work, std::ref(*text));
     for (auto& thread : threads)
         thread.join();
-
-    std::string expected;
-    for (std::uint32_t seed = 0; seed < 60; ++seed)
-    {
-        ModelGenerator generator(seed);
-        expected += Written<MediaOutputToJsonConverter>(generator.MakeMediaOutput());
-        expected += Written<MediaInputToJsonConverter>(generator.MakeMediaInput());
-        expected += Written<NodeToJsonConverter>(generator.MakeNode()) + "\n";
-    }
+    work(texts[0]);
     for (const auto& text : texts)
-        EXPECT_TRUE(text == expected);
+        EXPECT_TRUE(text == texts[0] && text.find("failed on ") == std::string::npos);
 }
 
 TEST(Converters, NeedLittleStack)

@@ -44,14 +44,6 @@ std::string Dump(const Entity& entity)
     return text;
 }
 
-template <typename Reader, typename Entity>
-Entity FromText(const std::string& text)
-{
-    Entity entity{};
-    Read<Reader>(text, entity);
-    return entity;
-}
-
 // All members and elements of a document: RFC 6901 pointer to the keys that it consists of.
 using Keys = std::vector<std::string>;
 void List(const JsonObject& json, const std::string& pointer, const Keys& keys, std::map<std::string, Keys>& places)
