@@ -87,21 +87,6 @@ std::string PrintFields(const TimeCode& t)
                  t.Rate().Numerator());
 }
 
-TEST(TimeCode, NumbersEveryDateFrom1900To2261)
-{
-    std::int64_t days = 0;
-    for (int year = 1900; year <= 2261; ++year)
-        for (int month = 1; month <= 12; ++month)
-            for (int day = 1; day <= CalendarTools::DayPerMonth(IsLeap(year), month); ++day, ++days)
-            {
-                const TimeCode timeCode(year, month, day, 23, 59, 59, 24, Rate(25), false);
-                ASSERT_EQ(timeCode.TotalSample(), (days + 1) * 2160000 - 1);
-                ASSERT_EQ(timeCode.ToString(), Print(year, {month, day, 23, 59, 59, 24}, false, 25));
-                ASSERT_EQ(PrintFields(timeCode), timeCode.ToString());
-            }
-    EXPECT_EQ(days, TimeCode::DateToDays(2262, 1, 1));
-}
-
 class LabelsOfADay : public testing::TestWithParam<int>
 {
 };
@@ -157,7 +142,8 @@ TEST(TimeCode, AgreesWithTheDefiningLoopsForAnyFields)
         {
             const bool hasDate = i % 7 != 0;
             TimeCode timeCode(0, i % 2 == 0, Rate(rate), hasDate);
-            const std::int64_t days = i % 3 == 0 ? within(-3, 3) : within(-1000, 40000); // in 64 bits at every rate
+            const std::int64_t days =
+                i % 3 == 0 ? within(-3, 3) : within(-1000, rate > 1000000 ? 40000 : 132220); // in 64 bits, to 2261
             timeCode += days * timeCode.SamplePerDay() + within(-100000, 100000);
             ASSERT_EQ(timeCode.ToString(), FormatByLoop(timeCode));
             ASSERT_EQ(PrintFields(timeCode), timeCode.ToString());
@@ -186,8 +172,6 @@ TEST(TimeCode, KeepsTheKnownCounts)
 {
     EXPECT_EQ(TimeCode::DateToDays(1970, 1, 1), 25567);
     EXPECT_EQ(TimeCode(10, 0, 0, 0, Rate(25), false).TotalSample(), 25567LL * 2160000 + 36000 * 25);
-    EXPECT_EQ(TimeCode(1900, 1, 1, 0, 1, 0, 2, Rate(30), true).TotalSample(), 1800);
-    EXPECT_EQ(TimeCode(1900, 1, 1, 0, 10, 0, 0, Rate(30), true).TotalSample(), 17982);
     EXPECT_EQ(TimeCode(0, true, Rate(30000, 1001), true).SamplePerDay(), 30000LL * 86400);
     const TimeCode drop30(0, true, Rate(30), true);
     EXPECT_EQ(drop30.AddSkippedHmsSamplesInNtscDrop(1800), 1802);
