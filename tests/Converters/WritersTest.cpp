@@ -10,8 +10,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <type_traits>
-#include <utility>
 
 namespace Qiv::Tests
 {
@@ -20,105 +18,39 @@ namespace
 
 using TimePoints::Rate;
 
-template <typename Base, typename Converter>
-constexpr bool isWellFormed = std::is_base_of_v<Base, Converter>&& std::is_default_constructible_v<Converter>&&
-    std::is_copy_constructible_v<Converter>&& std::is_move_constructible_v<Converter>;
-/// A reader and a writer, which both declare whether they let exceptions out.
-template <bool areNoexcept, typename Entity, typename Reader, typename Writer, typename Written = Entity>
-constexpr bool arePair = isWellFormed<FromJsonConverter<Entity>, Reader>&&
-                             isWellFormed<ToJsonConverter<Written>, Writer>&& noexcept(std::declval<Reader&>().To(
-                                 std::declval<const JsonObject&>(), std::declval<Entity&>())) ==
-                         areNoexcept&& noexcept(std::declval<Writer&>().To(std::declval<const Written&>(),
-                                                                           std::declval<Stringer&>())) == areNoexcept;
-static_assert(arePair<false, MediaIO, JsonToMediaIOConverter, MediaIOToJsonConverter>);
-static_assert(arePair<true, Speed, JsonToSpeedConverter, SpeedToJsonConverter>);
-static_assert(arePair<true, std::unique_ptr<Boundary>, JsonToBoundaryConverter, BoundaryToJsonConverter, Boundary>);
-static_assert(arePair<true, MediaInput, JsonToMediaInputConverter, MediaInputToJsonConverter>);
-static_assert(arePair<true, MediaOutput, JsonToMediaOutputConverter, MediaOutputToJsonConverter>);
-static_assert(arePair<false, SequenceOutput, JsonToSequenceOutputConverter, SequenceOutputToJsonConverter>);
-static_assert(arePair<false, MetadataProfileDictionary, JsonToMetadataProfileDictionaryConverter,
-                      MetadataProfileDictionaryToJsonConverter>);
-static_assert(arePair<false, PelOperatorMetadataProfile, JsonToPelOperatorMetaDataConverter,
-                      PelOperatorMetadataProfileToJsonConverter>);
-static_assert(arePair<false, Node, JsonToNodeConverter, NodeToJsonConverter>);
-
-SharedReference<MediaAsset> MakeAsset()
+bool IsFull(const SharedReference<MediaAsset>& reference)
 {
-    auto asset = std::make_shared<MediaAsset>();
-    asset->Id(Identifier("a1"));
-    asset->Name("Goal");
-    asset->InPoint(TimePoint(-1));
-    asset->OutPoint(TimePoint(INT64_MAX));
-    return asset;
+    const auto& asset = *reference.Pointer();
+    return reference.Id() == Identifier("a1") && asset.Id() == Identifier("a1") && asset.Name() == "Goal" &&
+           asset.InPoint() == TimePoint(-1) && asset.OutPoint() == TimePoint(INT64_MAX);
 }
 
-void FillCommon(MediaIO& channel)
+bool IsFull(const SequenceOutput& output)
 {
-    channel.Id(Identifier("c1"));
-    channel.Name("Cam \"A\" \xC3\xA9");
-    channel.MediaAssetOnAir(MakeAsset());
-    PelOperatorMetadataProfile operatorProfile;
-    operatorProfile.ServerId(1230);
-    operatorProfile.Index(7);
-    channel.Metadata().Set(std::make_shared<PelOperatorMetadataProfile>(operatorProfile));
-    for (const auto& [name, key, value] : {std::tuple("z", "", "\x01"), {"a.b", "c", "2"}, {"a", "b", "1"}})
-    {
-        const auto profile = std::make_shared<GenericMetadataProfile>(FullyQualifiedName(name));
-        profile->Set(key, value);
-        channel.Metadata().Set(profile);
-    }
+    const auto sequence = output.SequenceOnAir().Pointer();
+    return sequence->Id() == Identifier("s1") && sequence->Name() == "Highlights" && output.EditMode() &&
+           output.AssetBlockOnAir().Id() == Identifier("b1") && IsFull(output.AssetBlockOnAir().MediaAssetRef()) &&
+           output.NextAssetBlockOnAir() == SequenceOutput::AssetBlockOutput();
 }
 
-SequenceOutput MakeSequenceOutput()
+bool HoldsFullCommonMembers(const MediaIO& channel)
 {
-    auto sequence = std::make_shared<Sequence>();
-    sequence->Id(Identifier("s1"));
-    sequence->Name("Highlights");
-    SharedReference<Sequence> reference(sequence);
-    SequenceOutput::AssetBlockOutput block;
-    block.Id(Identifier("b1"));
-    block.MediaAssetRef(MakeAsset());
-    SequenceOutput output;
-    output.SequenceOnAir(reference);
-    output.AssetBlockOnAir(block);
-    output.NextAssetBlockOnAir(SequenceOutput::AssetBlockOutput());
-    output.EditMode(true);
-    return output;
+    const auto generic = [&](const char* name)
+    { return dynamic_cast<const GenericMetadataProfile&>(*channel.Metadata().Find(name)); };
+    const auto& forOperator =
+        dynamic_cast<const PelOperatorMetadataProfile&>(*channel.Metadata().Find("qiv.peloperator"));
+    return channel.Id() == Identifier("c1") && channel.Name() == "Cam \"A\" \xC3\xA9" &&
+           IsFull(channel.MediaAssetOnAir()) && forOperator.ServerId() == 1230 && forOperator.Index() == 7 &&
+           generic("a").Get("b") == "1" && generic("a.b").Get("c") == "2" && generic("z").Get("") == "\x01";
 }
 
-MediaInput MakeInput()
-{
-    MediaInput channel;
-    FillCommon(channel);
-    channel.RecordingStatus(RecordingStatus::Recording);
-    channel.LastTimePoint(TimePoint(1458569109680000000));
-    channel.LastTodTimecode(TimeCode(2016, 3, 21, 14, 5, 9, 17, Rate(25), false));
-    channel.LastUserTimecode(TimeCode(2016, 3, 21, 0, 10, 0, 0, Rate(30), true));
-    channel.PrimaryTimecodeType(TimecodePrimary::User);
-    Duration remaining(3600000000000);
-    channel.TotalCapacity(Duration(7200000000000));
-    channel.RemainingCapacity(remaining);
-    return channel;
-}
+const TimeCode fullTimeCode(2016, 3, 21, 14, 5, 9, 17, Rate(25), false);
 
-MediaOutput MakeOutput()
+struct Writers : testing::Test
 {
-    MediaOutput channel;
-    FillCommon(channel);
-    channel.PlayingStatus(PlayingStatus::Playing);
-    channel.SpeedOnAir(Speed(-3, 2));
-    channel.GlobalLoopMode(PlayingLoopMode::Bounce);
-    Duration remaining(-40000000);
-    channel.RemainingTime(remaining);
-    channel.CurrentTimePointOnAir(TimePoint(0));
-    channel.TodTimecodeOnAir(TimeCode(2016, 3, 21, 14, 5, 9, 17, Rate(25), false));
-    channel.UserTimecodeOnAir(TimeCode::Empty() + 1);
-    channel.PrimaryTimecodeType(TimecodePrimary::Tod);
-    channel.Sequence(MakeSequenceOutput());
-    channel.InBoundary(std::make_unique<BoundaryAbsolute>(TimePoint(5)));
-    channel.OutBoundary(std::make_unique<BoundaryRelative>(BoundaryOrigin::RelativeToOppositeLoadBoundary, -25));
-    return channel;
-}
+    const MediaInput fullRecorder = FromText<JsonToMediaIOConverter, MediaInput>(fullInput);
+    const MediaOutput fullPlayer = FromText<JsonToMediaIOConverter, MediaOutput>(fullOutput);
+};
 
 template <typename Reader, typename Writer, typename Entity>
 void ExpectText(const Entity& entity, const std::string& text)
@@ -134,13 +66,30 @@ void ExpectText(const Entity& entity, const std::string& text)
     EXPECT_STREQ(Writer().GetLastConversionError(), "");
 }
 
-TEST(Writers, WriteFullEntities)
+TEST_F(Writers, WriteFullEntities)
 {
-    ExpectText<JsonToMediaInputConverter, MediaInputToJsonConverter>(MakeInput(), fullInput);
-    ExpectText<JsonToMediaIOConverter, MediaIOToJsonConverter>(MakeInput(), fullInput);
-    ExpectText<JsonToMediaOutputConverter, MediaOutputToJsonConverter>(MakeOutput(), fullOutput);
-    ExpectText<JsonToMediaIOConverter, MediaIOToJsonConverter>(MakeOutput(), fullOutput);
-    ExpectText<JsonToSequenceOutputConverter, SequenceOutputToJsonConverter>(MakeSequenceOutput(), fullSequenceOutput);
+    EXPECT_TRUE(HoldsFullCommonMembers(fullRecorder) && HoldsFullCommonMembers(fullPlayer));
+    EXPECT_TRUE(fullRecorder.RecordingStatus() == RecordingStatus::Recording &&
+                fullRecorder.LastTimePoint() == TimePoint(1458569109680000000) &&
+                fullRecorder.LastTodTimecode() == fullTimeCode &&
+                fullRecorder.LastUserTimecode() == TimeCode(2016, 3, 21, 0, 10, 0, 0, Rate(30), true) &&
+                fullRecorder.PrimaryTimecodeType() == TimecodePrimary::User &&
+                fullRecorder.RemainingCapacity() == Duration(3600000000000) &&
+                fullRecorder.TotalCapacity() == Duration(7200000000000));
+    EXPECT_TRUE(fullPlayer.PlayingStatus() == PlayingStatus::Playing && fullPlayer.SpeedOnAir() == Speed(-3, 2) &&
+                fullPlayer.GlobalLoopMode() == PlayingLoopMode::Bounce &&
+                fullPlayer.RemainingTime() == Duration(-40000000) && IsFull(*fullPlayer.Sequence()) &&
+                fullPlayer.CurrentTimePointOnAir() == TimePoint(0) && fullPlayer.TodTimecodeOnAir() == fullTimeCode &&
+                fullPlayer.UserTimecodeOnAir() == TimeCode::Empty() + 1 &&
+                fullPlayer.PrimaryTimecodeType() == TimecodePrimary::Tod &&
+                *fullPlayer.InBoundary() == BoundaryAbsolute(TimePoint(5)) &&
+                *fullPlayer.OutBoundary() == BoundaryRelative(BoundaryOrigin::RelativeToOppositeLoadBoundary, -25));
+    ExpectText<JsonToMediaInputConverter, MediaInputToJsonConverter>(fullRecorder, fullInput);
+    ExpectText<JsonToMediaIOConverter, MediaIOToJsonConverter>(fullRecorder, fullInput);
+    ExpectText<JsonToMediaOutputConverter, MediaOutputToJsonConverter>(fullPlayer, fullOutput);
+    ExpectText<JsonToMediaIOConverter, MediaIOToJsonConverter>(fullPlayer, fullOutput);
+    ExpectText<JsonToSequenceOutputConverter, SequenceOutputToJsonConverter>(*fullPlayer.Sequence(),
+                                                                             fullSequenceOutput);
     ExpectText<JsonToNodeConverter, NodeToJsonConverter>(
         Node(Identifier("n1"), -2, "srv", "10.0.0.1", {"10.0.1.2", "10.0.1.1"}, "6U", "B2", "1.2.3"), fullNode);
     ExpectText<JsonToSpeedConverter, SpeedToJsonConverter>(
@@ -151,7 +100,7 @@ TEST(Writers, WriteFullEntities)
     EXPECT_EQ(members.CloseObject().ToString(), R"({"before":1,"_type":"Node","id":""})");
 }
 
-TEST(Writers, LeaveOutWhatIsEmpty)
+TEST_F(Writers, LeaveOutWhatIsEmpty)
 {
     ExpectText<JsonToMediaIOConverter, MediaIOToJsonConverter>(MediaInput(),
                                                                R"({"_type":"MediaInput","recordingStatus":"Idle"})");
@@ -174,7 +123,7 @@ TEST(Writers, LeaveOutWhatIsEmpty)
               R"({"_type":"MediaInput","metadata":{},"recordingStatus":"Idle"})");
 }
 
-TEST(Writers, EndTextsAtNulAndWriteThePlaceholderDate)
+TEST_F(Writers, EndTextsAtNulAndWriteThePlaceholderDate)
 {
     MediaInput channel;
     channel.Id(Identifier(std::string("a\0b", 3)));
@@ -228,7 +177,7 @@ struct StrangeBoundary : Boundary
     BoundaryOrigin claimed;
 };
 
-TEST(Writers, RefuseWhatIsOfNoKind)
+TEST_F(Writers, RefuseWhatIsOfNoKind)
 {
     StrangeChannel channel;
     channel.Name("kept");
@@ -264,53 +213,45 @@ struct MarkingWriter : ToJsonConverter<TimePoint>
     Result result;
 };
 
-/// `text` with a mark wherever the standard form stands.
-std::string Marked(std::string text, const std::string& standard, const std::string& mark)
-{
-    for (auto position = text.find(standard); position != std::string::npos; position = text.find(standard))
-        text.replace(position, standard.size(), mark);
-    return text;
-}
-
-TEST(Writers, UseAnInjectedTimePointWriterInTheirPlaces)
+TEST_F(Writers, UseAnInjectedTimePointWriterInTheirPlaces)
 {
     const auto standard = [](const std::string& value) { return R"({"_type":"TimePoint","value":")" + value + "\"}"; };
     const auto writer = std::make_shared<MarkingWriter>();
-    auto output = MakeOutput();
+    auto output = fullPlayer;
     output.OutBoundary(std::make_unique<BoundaryAbsolute>(TimePoint(6)));
 
     // Taken: the sequence's assets and the in boundary. Not: the asset on air, the current time point, the out
     // boundary.
     const auto markedSequence =
-        Marked(Marked(fullSequenceOutput, standard("-1"), "-1"), standard("9223372036854775807"), "807");
-    auto expected = Marked(Marked(fullOutput, fullSequenceOutput, markedSequence), standard("5"), "5");
+        ReplacedAll(ReplacedAll(fullSequenceOutput, standard("-1"), "-1"), standard("9223372036854775807"), "807");
+    auto expected = ReplacedAll(ReplacedAll(fullOutput, fullSequenceOutput, markedSequence), standard("5"), "5");
     expected.replace(expected.find("{\"_type\":\"BoundaryRelative"), std::string::npos,
                      R"({"_type":"BoundaryAbsolute","timepoint":)" + standard("6") + "}}");
     EXPECT_EQ(Written(output, MediaOutputToJsonConverter(writer)), expected);
-    EXPECT_EQ(Written(output, MediaIOToJsonConverter(writer)), expected);
     const MediaIOToJsonConverter original(writer);
+    EXPECT_EQ(Written(output, original), expected);
     EXPECT_EQ(Written(output, MediaIOToJsonConverter(original)), expected); // a copy shares it
-    EXPECT_EQ(Written(MakeSequenceOutput(), SequenceOutputToJsonConverter(writer)), markedSequence);
+    EXPECT_EQ(Written(*fullPlayer.Sequence(), SequenceOutputToJsonConverter(writer)), markedSequence);
     EXPECT_EQ(Written(BoundaryAbsolute(TimePoint(5)), BoundaryToJsonConverter(writer)),
               R"({"_type":"BoundaryAbsolute","timepoint":5})");
 
-    const auto expectedInput = Marked(fullInput, standard("1458569109680000000"), "0");
-    EXPECT_EQ(Written(MakeInput(), MediaInputToJsonConverter(writer)), expectedInput);
-    EXPECT_EQ(Written(MakeInput(), MediaIOToJsonConverter(writer)), expectedInput);
+    const auto expectedInput = ReplacedAll(fullInput, standard("1458569109680000000"), "0");
+    EXPECT_EQ(Written(fullRecorder, MediaInputToJsonConverter(writer)), expectedInput);
+    EXPECT_EQ(Written(fullRecorder, MediaIOToJsonConverter(writer)), expectedInput);
 }
 
-TEST(Writers, CloseWhatTheyOpenedWhenANestedWriterFails)
+TEST_F(Writers, CloseWhatTheyOpenedWhenANestedWriterFails)
 {
     const auto writer = std::make_shared<MarkingWriter>("no time points here");
     const std::string failure = " | no time points here";
     const std::string asset = R"({"_type":"MediaAsset","id":"a1","name":"Goal","inPoint":-1})";
     const std::string reference = R"({"_type":"MediaAssetRef","id":"a1","mediaAsset":)" + asset + "}";
     const auto sequence = fullSequenceOutput.substr(0, fullSequenceOutput.find(fullAssetReference)) + reference + "}}";
-    EXPECT_EQ(Written(*MakeAsset(), MediaAssetToJsonConverter(writer)), asset + failure);
+    EXPECT_EQ(Written(*fullPlayer.MediaAssetOnAir().Pointer(), MediaAssetToJsonConverter(writer)), asset + failure);
     const SharedReferenceToJson<MediaAsset, false> references("MediaAssetRef", "mediaAsset",
                                                               std::make_shared<MediaAssetToJsonConverter>(writer));
-    EXPECT_EQ(Written(MakeAsset(), references), reference + failure);
-    EXPECT_EQ(Written(MakeSequenceOutput(), SequenceOutputToJsonConverter(writer)), sequence + failure);
+    EXPECT_EQ(Written(fullPlayer.MediaAssetOnAir(), references), reference + failure);
+    EXPECT_EQ(Written(*fullPlayer.Sequence(), SequenceOutputToJsonConverter(writer)), sequence + failure);
 
     // One that writes nothing for its key owes a value, and gets an empty object.
     struct SilentWriter : ToJsonConverter<TimePoint>
@@ -318,21 +259,21 @@ TEST(Writers, CloseWhatTheyOpenedWhenANestedWriterFails)
         Result To(const TimePoint&, Stringer&) const override { return "silent"; }
     };
     const auto silent = std::make_shared<SilentWriter>();
-    EXPECT_EQ(Written(*MakeAsset(), MediaAssetToJsonConverter(silent)),
+    EXPECT_EQ(Written(*fullPlayer.MediaAssetOnAir().Pointer(), MediaAssetToJsonConverter(silent)),
               R"({"_type":"MediaAsset","id":"a1","name":"Goal","inPoint":{}} | silent)");
     EXPECT_EQ(Written(BoundaryAbsolute(TimePoint(5)), BoundaryToJsonConverter(silent)),
               R"({"_type":"BoundaryAbsolute","timepoint":{}})");
-    EXPECT_EQ(Written(MakeInput(), MediaInputToJsonConverter(silent)),
-              Marked(fullInput, R"({"_type":"TimePoint","value":"1458569109680000000"})", "{}"));
+    EXPECT_EQ(Written(fullRecorder, MediaInputToJsonConverter(silent)),
+              ReplacedAll(fullInput, R"({"_type":"TimePoint","value":"1458569109680000000"})", "{}"));
 
     // A channel and a boundary do not look at these failures.
     EXPECT_EQ(Written(BoundaryAbsolute(TimePoint(5)), BoundaryToJsonConverter(writer)),
               R"({"_type":"BoundaryAbsolute","timepoint":5})");
-    auto expected = Marked(fullOutput, fullSequenceOutput, sequence);
-    expected = Marked(expected, R"({"_type":"TimePoint","value":"5"})", "5");
-    EXPECT_EQ(Written(MakeOutput(), MediaOutputToJsonConverter(writer)), expected);
-    EXPECT_EQ(Written(MakeInput(), MediaInputToJsonConverter(writer)),
-              Marked(fullInput, R"({"_type":"TimePoint","value":"1458569109680000000"})", "0"));
+    auto expected = ReplacedAll(fullOutput, fullSequenceOutput, sequence);
+    expected = ReplacedAll(expected, R"({"_type":"TimePoint","value":"5"})", "5");
+    EXPECT_EQ(Written(fullPlayer, MediaOutputToJsonConverter(writer)), expected);
+    EXPECT_EQ(Written(fullRecorder, MediaInputToJsonConverter(writer)),
+              ReplacedAll(fullInput, R"({"_type":"TimePoint","value":"1458569109680000000"})", "0"));
 }
 
 } // namespace
