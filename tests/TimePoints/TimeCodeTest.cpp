@@ -157,10 +157,10 @@ TEST(TimeCode, AgreesWithTheDefiningLoopsForAnyFields)
             ASSERT_EQ(TimeCode::DateToDays(year, month, day), DaysByLoop(year, month, day)) << year << " " << month;
             timeCode.DateTimeToSample(year % 2000, month, day, hour, minute, second, sample);
             const bool isDrop = timeCode.IsDrop();
-            ASSERT_EQ(timeCode.TotalSample(), DaysByLoop(year % 2000, month, day) * timeCode.SamplePerDay() +
-                                                  hour * timeCode.SamplePerHour(isDrop) +
-                                                  minute * timeCode.SamplePerMinute(isDrop) + second * rate +
-                                                  (isDrop ? rate / 15 * (minute / 10) : 0) + sample);
+            ASSERT_EQ(timeCode.TotalSample(),
+                      DaysByLoop(year % 2000, month, day) * timeCode.SamplePerDay() +
+                          hour * timeCode.SamplePerHour(isDrop) + minute * timeCode.SamplePerMinute(isDrop) +
+                          second * timeCode.SamplePerSecond() + (isDrop ? rate / 15 * (minute / 10) : 0) + sample);
         }
     // No loop gets that far; 400 years have 146097 days.
     EXPECT_EQ(TimeCode::DateToDays(2147483647, 13, 1) - TimeCode::DateToDays(2047, 13, 1),

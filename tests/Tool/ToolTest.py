@@ -95,6 +95,9 @@ class Tool(unittest.TestCase):
             self.assertEqual(run("convert", "--ndjson", large.name), (0, "", ""))
             shown = f"\r{large.name}: 16 MiB of 18 MiB, 88 %\r\x1b[K"
         self.assertEqual(os.read(terminal, 1000).decode(), shown)
+        with subprocess.Popen([TOOL, "convert"], stdin=error, stderr=subprocess.PIPE) as process:
+            os.write(terminal, b"\x04")
+            self.assertIn(b"reading from the terminal, end with Ctrl-D\n", process.communicate()[1])
 
     def test_ChecksDocuments(self):
         text = '{"_type":"MediaInput","recordingStatus":"Recordin",\n "colour":1}'
@@ -109,6 +112,8 @@ class Tool(unittest.TestCase):
                                      ("<stdin>", 1, "/colour", "unknown-member"),
                                      ("<stdin>", 2, "", "invalid-json"), ("speed.json", 1, "", "invalid-json")])
 
+        found = json.loads(run("check", "--output=json", text='{"_type":"MediaOutput","speedOnAir":{}}')[1])
+        self.assertEqual(found[0]["readerMessage"], "Speed is empty")
         self.check(["check", "--output", "json", "node.json"], "", 0, "[]\n", "")
         self.check(["check", "node.json", "nothing.json"], "", 2, "", r"nothing\.json: No such file or directory")
         self.assertRegex(run("check", text=FATAL)[1], r"\A<stdin>:2:55: /currentTimePointOnAir/value: FATAL: .*\n\Z")
