@@ -1,4 +1,5 @@
 #include <Qiv/BusinessEntityModel/BaseTypes/FullyQualifiedName.h>
+#include <Qiv/BusinessEntityModel/BaseTypes/Identifier.h>
 #include <Qiv/DataModel/MediaAssets/TimecodePrimary.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryOrigin.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/PlayingLoopMode.h>
@@ -66,7 +67,8 @@ TEST(EnumerationsDeathTest, KeepTheirTextsUntilTheEndOfTheProcess)
             {
                 const bool kept =
                     ToString(BoundaryOrigin::RelativeToOppositeLoadBoundary) == "RelativeToOppositeLoadBoundary" &&
-                    BusinessEntityModel::BaseTypes::FullyQualifiedName::Empty().IsEmpty();
+                    BusinessEntityModel::BaseTypes::FullyQualifiedName::Empty().IsEmpty() &&
+                    BusinessEntityModel::BaseTypes::Identifier::Empty().IsEmpty();
                 std::_Exit(kept ? 42 : 1);
             });
         static_cast<void>(ToString(BoundaryOrigin::Absolute));
