@@ -170,16 +170,11 @@ TEST(Stringer, WritesCompactAndPretty)
 
 TEST(Stringer, WritesTheShortestNumberThatReadsBack)
 {
-    const std::pair<double, const char*> rows[] = {{0.0, "0"},
-                                                   {-0.0, "-0"},
-                                                   {0.1, "0.1"},
-                                                   {1234.5, "1234.5"},
-                                                   {1e21, "1e+21"},
-                                                   {5e-324, "5e-324"},
-                                                   {-2.2250738585072014e-308, "-2.2250738585072014e-308"},
-                                                   {std::numeric_limits<double>::max(), "1.7976931348623157e+308"}};
-    for (const auto& [number, text] : rows)
-        EXPECT_EQ(Stringer().Value(number).ToString(), text);
+    Stringer rows;
+    for (const auto number : {0.0, -0.0, 0.1, 1234.5, 1e21, 5e-324, -2.2250738585072014e-308, 1.7976931348623157e308})
+        rows.Value(number).Value(" ");
+    EXPECT_EQ(rows.ToString(), R"(0" "-0" "0.1" "1234.5" "1e+21" "5e-324" "-2.2250738585072014e-308" ")"
+                               R"(1.7976931348623157e+308" ")");
     std::mt19937_64 random(1);
     for (int i = 0; i < 10000; ++i)
     {
@@ -219,10 +214,7 @@ TEST(Stringer, RefusesMisuseAndWritesNothing)
         {"CloseArray", "noo-", [](Stringer& json) { json.CloseArray(); }},
         {"Object", "-k--", [](Stringer& json) { json.Object(); }},
         {"Array", "-k--", [](Stringer& json) { json.Array(); }},
-        {"ObjectOf", "-k--",
-         [](Stringer& json) {
-             json.ObjectOf({{"k", "x"}});
-         }},
+        {"ObjectOf", "-k--", [](Stringer& json) { json.ObjectOf({}); }},
         {"Value", "-k--", [](Stringer& json) { json.Value("x"); }},
         {"Value", "-k--", [](Stringer& json) { json.Value(true); }},
         {"Value", "-k--", [](Stringer& json) { json.Value(1); }},

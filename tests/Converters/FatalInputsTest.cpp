@@ -6,9 +6,7 @@
 
 #include <unistd.h>
 
-#include <cstdio>
-#include <cstdlib>
-#include <exception>
+#include <csignal>
 #include <memory>
 #include <string>
 
@@ -17,30 +15,11 @@ namespace Qiv::Tests
 namespace
 {
 
-constexpr int terminated = 71;
-
-/// Reads a document; when that ends in std::terminate, prints the exception and leaves with `terminated`.
 template <typename Reader, typename Entity>
-void ReadFatally(const std::string& text)
+void ReadAny(const std::string& text)
 {
-    std::set_terminate(
-        []
-        {
-            try
-            {
-                if (const auto exception = std::current_exception())
-                    std::rethrow_exception(exception);
-                std::fputs("terminated without exception", stderr);
-            }
-            catch (const std::exception& error)
-            {
-                std::fprintf(stderr, "terminated by: %s.", error.what());
-            }
-            _exit(terminated);
-        });
     Entity entity;
     static_cast<void>(Reader().To(Parse(text), entity));
-    _exit(0);
 }
 
 class FatalInputsDeathTest : public testing::Test
@@ -53,43 +32,36 @@ const std::string absoluteOrigin = R"({"_type":"BoundaryRelative","origin":"Abso
 
 TEST_F(FatalInputsDeathTest, EndInTerminate)
 {
-    const testing::ExitedWithCode dies(terminated);
-    const std::string badOrigin = "terminated by: Bad origin for BoundaryRelative\\.";
-    EXPECT_EXIT((ReadFatally<JsonToBoundaryConverter, std::unique_ptr<Boundary>>(absoluteOrigin)), dies, badOrigin);
+    const testing::KilledBySignal dies(SIGABRT);
+    const std::string badOrigin = "terminat.*: +Bad origin for BoundaryRelative\n";
+    EXPECT_EXIT((ReadAny<JsonToBoundaryConverter, std::unique_ptr<Boundary>>(absoluteOrigin)), dies, badOrigin);
     for (const std::string key : {"inBoundary", "outBoundary"})
     {
         const auto document = R"({"_type":"MediaOutput",")" + key + "\":" + absoluteOrigin + "}";
-        EXPECT_EXIT((ReadFatally<JsonToMediaIOConverter, MediaOutput>(document)), dies, badOrigin);
+        EXPECT_EXIT((ReadAny<JsonToMediaIOConverter, MediaOutput>(document)), dies, badOrigin);
     }
     for (const std::string value :
          {"", " ", "abc", "-", "+-5", "9223372036854775808", "-9223372036854775809", "\\u0000"})
     {
         const auto document = R"({"currentTimePointOnAir":{"_type":"TimePoint","value":")" + value + "\"}}";
-        EXPECT_EXIT((ReadFatally<JsonToMediaOutputConverter, MediaOutput>(document)), dies, "terminated by: stoll\\.");
+        EXPECT_EXIT((ReadAny<JsonToMediaOutputConverter, MediaOutput>(document)), dies, "terminat.*: +stoll\n");
     }
 }
 
 TEST_F(FatalInputsDeathTest, HaveHarmlessNeighbours)
 {
-    const testing::ExitedWithCode survives(0);
-    EXPECT_EXIT((ReadFatally<JsonToMediaIOConverter, MediaOutput>(
-                    R"({"_type":"MediaOutput","inBoundary":{"_type":"BoundaryRelative","origin":"?"},)"
-                    R"("outBoundary":{"_type":"BoundaryRelative","origin":""},)"
-                    R"("currentTimePointOnAir":{"_type":"TimePoint","value":"12abc"},)"
-                    R"("todTimecodeOnAir":"00:00:00:00@99999999999999999999"})")),
-                survives, "^$");
+    FromText<JsonToMediaIOConverter, MediaOutput>(
+        R"({"_type":"MediaOutput","inBoundary":{"_type":"BoundaryRelative","origin":"?"},)"
+        R"("outBoundary":{"_type":"BoundaryRelative","origin":""},)"
+        R"("currentTimePointOnAir":{"_type":"TimePoint","value":"12abc"},)"
+        R"("todTimecodeOnAir":"00:00:00:00@99999999999999999999"})");
     for (const std::string value : {"null", "true", "1.5", "1e300", "9223372036854775808", "[]", "{}"})
-    {
-        const auto document = R"({"currentTimePointOnAir":{"_type":"TimePoint","value":)" + value + "}}";
-        EXPECT_EXIT((ReadFatally<JsonToMediaOutputConverter, MediaOutput>(document)), survives, "^$");
-    }
-    const std::string unread =
+        FromText<JsonToMediaOutputConverter, MediaOutput>(R"({"currentTimePointOnAir":{"_type":"TimePoint","value":)" +
+                                                          value + "}}");
+    FromText<JsonToMediaIOConverter, MediaOutput>(
         R"({"_type":"MediaOutput","inBoundary":{"_type":"BoundaryAbsolute","origin":"Absolute"},)"
-        R"("currentTimePointOnAir":{"value":"abc"}})";
-    EXPECT_EXIT((ReadFatally<JsonToMediaIOConverter, MediaOutput>(unread)), survives, "^$");
-    EXPECT_EXIT((ReadFatally<JsonToMediaIOConverter, MediaInput>(R"({"_type":"MediaInput","inBoundary":)" +
-                                                                 absoluteOrigin + "}")),
-                survives, "^$");
+        R"("currentTimePointOnAir":{"value":"abc"}})");
+    FromText<JsonToMediaIOConverter, MediaInput>(R"({"_type":"MediaInput","inBoundary":)" + absoluteOrigin + "}");
 }
 
 // In a process of its own, where nobody has written a player channel before.

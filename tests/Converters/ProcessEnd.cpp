@@ -10,9 +10,7 @@ using namespace Qiv::Tests;
 template <typename Reader, typename Writer, typename Entity>
 bool Keeps(const std::string& text)
 {
-    Entity entity;
-    Read<Reader>(text, entity);
-    return Written<Writer>(entity) == text;
+    return Written<Writer>(FromText<Reader, Entity>(text)) == text;
 }
 
 bool KeepsAll()

@@ -56,10 +56,7 @@ template <typename Reader, typename Writer, typename Entity>
 void ExpectText(const Entity& entity, const std::string& text)
 {
     EXPECT_EQ(Written<Writer>(entity), text);
-    Entity read;
-    Read<Reader>(text, read);
-    EXPECT_TRUE(read == entity);
-
+    EXPECT_TRUE((FromText<Reader, Entity>(text) == entity));
     Stringer stringer;
     EXPECT_TRUE(Writer().To(Entity(entity), stringer)); // a temporary
     EXPECT_EQ(stringer.ToString(), text);
@@ -232,12 +229,8 @@ TEST_F(Writers, UseAnInjectedTimePointWriterInTheirPlaces)
     EXPECT_EQ(Written(output, original), expected);
     EXPECT_EQ(Written(output, MediaIOToJsonConverter(original)), expected); // a copy shares it
     EXPECT_EQ(Written(*fullPlayer.Sequence(), SequenceOutputToJsonConverter(writer)), markedSequence);
-    EXPECT_EQ(Written(BoundaryAbsolute(TimePoint(5)), BoundaryToJsonConverter(writer)),
-              R"({"_type":"BoundaryAbsolute","timepoint":5})");
-
-    const auto expectedInput = ReplacedAll(fullInput, standard("1458569109680000000"), "0");
-    EXPECT_EQ(Written(fullRecorder, MediaInputToJsonConverter(writer)), expectedInput);
-    EXPECT_EQ(Written(fullRecorder, MediaIOToJsonConverter(writer)), expectedInput);
+    EXPECT_EQ(Written(fullRecorder, MediaIOToJsonConverter(writer)),
+              ReplacedAll(fullInput, standard("1458569109680000000"), "0"));
 }
 
 TEST_F(Writers, CloseWhatTheyOpenedWhenANestedWriterFails)
