@@ -71,19 +71,10 @@ public:
 
     MediaAsset MakeMediaAsset()
     {
-        MediaAsset asset;
-        asset.Id(Text());
-        asset.Name(Text());
+        auto asset = MakeNamed<MediaAsset>();
         asset.InPoint(MakeTimePoint());
         asset.OutPoint(MakeTimePoint());
         return asset;
-    }
-
-    SharedReference<MediaAsset> MakeMediaAssetReference()
-    {
-        if (Chance())
-            return SharedReference<MediaAsset>(Text());
-        return std::make_shared<MediaAsset>(MakeMediaAsset());
     }
 
     Speed MakeSpeed() { return {Number32(), static_cast<std::uint32_t>(Number64())}; }
@@ -101,15 +92,12 @@ public:
         {
             SequenceOutput::AssetBlockOutput made;
             made.Id(Text());
-            made.MediaAssetRef(MakeMediaAssetReference());
+            made.MediaAssetRef(MakeReference(MakeMediaAsset()));
             return made;
         };
-        auto sequence = std::make_shared<Sequence>();
-        sequence->Id(Text());
-        sequence->Name(Text());
-        SharedReference<Sequence> reference = Chance() ? SharedReference<Sequence>(Text()) : sequence;
+        auto sequence = MakeReference(MakeNamed<Sequence>());
         SequenceOutput output;
-        output.SequenceOnAir(reference);
+        output.SequenceOnAir(sequence);
         output.AssetBlockOnAir(block());
         if (Chance())
             output.NextAssetBlockOnAir(block());
@@ -161,11 +149,26 @@ public:
     }
 
 private:
+    template <typename Entity>
+    Entity MakeNamed()
+    {
+        Entity entity;
+        entity.Id(Text());
+        entity.Name(Text());
+        return entity;
+    }
+
+    template <typename Entity>
+    SharedReference<Entity> MakeReference(const Entity& entity)
+    {
+        return Chance() ? SharedReference<Entity>(Text()) : std::make_shared<Entity>(entity);
+    }
+
     void FillCommon(MediaIO& channel)
     {
         channel.Id(Text());
         channel.Name(Text());
-        channel.MediaAssetOnAir(MakeMediaAssetReference());
+        channel.MediaAssetOnAir(MakeReference(MakeMediaAsset()));
         if (Chance())
         {
             const auto profile = std::make_shared<PelOperatorMetadataProfile>();

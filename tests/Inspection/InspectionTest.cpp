@@ -272,11 +272,7 @@ TEST(InspectDocument, TellsWhatReadersDoWithAnyDocument)
 // Each document with its findings: kind, pointer, and the reader's text after an arrow.
 TEST(InspectDocument, NamesKindPlaceAndReadersText)
 {
-    const struct
-    {
-        const char* document;
-        const char* findings;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"null", "failure : -> MediaIO is empty"},
         {"{}", "failure : -> MediaIO is empty"},
         {R"({"id": "n"})", "failure : -> Invalid JSON type (undefined)"},
