@@ -126,6 +126,7 @@ TEST(Duration, CalculatesWithinTwosComplement)
     EXPECT_EQ(static_cast<std::chrono::nanoseconds>(TimePoint(5)) + std::chrono::nanoseconds(Duration(2)), 7ns);
     EXPECT_TRUE(TimePoint::Empty().IsEmpty() && Duration::Empty().IsEmpty() && !TimePoint(0).IsEmpty());
     EXPECT_TRUE(Duration(minimum).CompareTo(Duration(maximum)) < 0 && TimePoint(2).CompareTo(TimePoint(1)) > 0);
+    EXPECT_LT(TimePoint(1).CompareTo(TimePoint(2)), 0);
     EXPECT_TRUE(Duration(-1) < Duration(0) && TimePoint(-1) <= TimePoint(-1) && TimePoint::Empty() < TimePoint(0));
 }
 
