@@ -23,7 +23,7 @@ public:
     virtual bool IsStringFormatValid(const std::string& text) const = 0;
 
     /// The duration and true, or `Duration::Empty()` and false when `Parse` throws.
-    virtual std::pair<bool, Duration> TryParse(const std::string& text) const noexcept = 0;
+    virtual std::pair<bool, Duration> TryParse(const std::string& text) const = 0;
 
 protected:
     DurationParser(const DurationParser&) = default;

@@ -20,7 +20,8 @@ class QIV_TIMEPOINTS_EXPORT Rate
 public:
     /// 50 samples per second, the rate of the empty time code.
     constexpr Rate() noexcept = default;
-    explicit constexpr Rate(std::int64_t numerator, std::int64_t denominator = 1) noexcept
+    explicit constexpr Rate(std::int64_t numerator) noexcept : Rate(numerator, 1) {}
+    constexpr Rate(std::int64_t numerator, std::int64_t denominator) noexcept
         : numerator_(numerator), denominator_(denominator)
     {
     }

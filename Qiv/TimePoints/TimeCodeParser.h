@@ -23,7 +23,7 @@ public:
     virtual bool IsStringFormatValid(const std::string& text) const = 0;
 
     /// The time code and true, or `TimeCode::Empty()` and false when `Parse` throws.
-    virtual std::pair<bool, TimeCode> TryParse(const std::string& text) const noexcept = 0;
+    virtual std::pair<bool, TimeCode> TryParse(const std::string& text) const = 0;
 
 protected:
     TimeCodeParser(const TimeCodeParser&) = default;

@@ -9,11 +9,22 @@
 #include <csignal>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace Qiv::Tests
 {
 namespace
 {
+
+/// A reader and a writer that let no exception out.
+template <typename Reader, typename Entity, typename Writer, typename Written = Entity>
+constexpr bool areNoexcept =
+    noexcept(std::declval<const Reader&>().To(std::declval<const JsonObject&>(), std::declval<Entity&>())) && noexcept(
+        std::declval<const Writer&>().To(std::declval<const Written&>(), std::declval<Stringer&>()));
+static_assert(areNoexcept<JsonToSpeedConverter, Speed, SpeedToJsonConverter>);
+static_assert(areNoexcept<JsonToBoundaryConverter, std::unique_ptr<Boundary>, BoundaryToJsonConverter, Boundary>);
+static_assert(areNoexcept<JsonToMediaInputConverter, MediaInput, MediaInputToJsonConverter>);
+static_assert(areNoexcept<JsonToMediaOutputConverter, MediaOutput, MediaOutputToJsonConverter>);
 
 template <typename Reader, typename Entity>
 void ReadAny(const std::string& text)

@@ -17,6 +17,8 @@ class QIV_BUSINESSENTITYMODEL_BASETYPES_EXPORT FullyQualifiedName
 public:
     FullyQualifiedName() = default;
     FullyQualifiedName(std::string value) noexcept : value_(std::move(value)) {}
+    /// Null-terminated text.
+    FullyQualifiedName(const char* value) : value_(value) {}
 
     /// A shared empty name, usable until the very end of the process.
     static const FullyQualifiedName& Empty();

@@ -16,6 +16,8 @@ class QIV_BUSINESSENTITYMODEL_BASETYPES_EXPORT Identifier
 public:
     Identifier() = default;
     Identifier(std::string value) noexcept : value_(std::move(value)) {}
+    /// Null-terminated text.
+    Identifier(const char* value) : value_(value) {}
 
     /// A shared empty identifier, usable until the very end of the process.
     static const Identifier& Empty();

@@ -10,7 +10,7 @@ namespace Qiv::BusinessEntityModel::BaseTypes
 {
 
 /// A named group of facts about a channel: the base of every kind of profile. Profiles are held by shared pointers and
-/// duplicated by Clone(); only their kinds are copyable, so that none is sliced.
+/// duplicated by Clone(); only their kinds can be copied, so that none is sliced.
 class QIV_BUSINESSENTITYMODEL_BASETYPES_EXPORT MetadataProfile
 {
 public:
@@ -27,10 +27,12 @@ public:
     bool operator==(const MetadataProfile& other) const { return Equals(other); }
     bool operator!=(const MetadataProfile& other) const { return !Equals(other); }
 
+    /// Assigns what all profiles have in common, which is nothing; the facts and the name of a profile stay.
+    MetadataProfile& operator=(const MetadataProfile&) = default;
+
 protected:
     MetadataProfile() = default;
     MetadataProfile(const MetadataProfile&) = default;
-    MetadataProfile& operator=(const MetadataProfile&) = default;
 };
 
 } // namespace Qiv::BusinessEntityModel::BaseTypes

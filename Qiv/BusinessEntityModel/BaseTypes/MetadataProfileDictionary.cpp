@@ -63,7 +63,12 @@ bool MetadataProfileDictionary::Erase(const FullyQualifiedName& name)
 
 bool MetadataProfileDictionary::Erase(const std::shared_ptr<MetadataProfile>& profile)
 {
-    return profile != nullptr && Erase(profile->FullyQualifiedName());
+    return profile != nullptr && Erase(*profile);
+}
+
+bool MetadataProfileDictionary::Erase(const MetadataProfile& profile)
+{
+    return Erase(profile.FullyQualifiedName());
 }
 
 void MetadataProfileDictionary::DeepCopy(const MetadataProfileDictionary& other)

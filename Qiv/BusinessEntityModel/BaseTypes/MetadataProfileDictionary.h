@@ -67,6 +67,7 @@ public:
     bool Erase(const FullyQualifiedName& name);
     /// Removes the entry under the name of `profile`; false when there is none or `profile` is null.
     bool Erase(const std::shared_ptr<MetadataProfile>& profile);
+    bool Erase(const MetadataProfile& profile);
 
     /// Replaces the content by clones of the profiles of `other`; when cloning throws, the content stays.
     void DeepCopy(const MetadataProfileDictionary& other);

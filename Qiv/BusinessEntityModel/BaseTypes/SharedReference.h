@@ -20,8 +20,8 @@ class SharedReference
 {
 public:
     SharedReference() = default;
-    explicit SharedReference(const Identifier& id) : id_(id) {}
-    explicit SharedReference(Identifier&& id) noexcept : id_(std::move(id)) {}
+    SharedReference(const Identifier& id) : id_(id) {}
+    SharedReference(Identifier&& id) noexcept : id_(std::move(id)) {}
     /// A null or expired pointer gives an empty reference.
     SharedReference(const std::shared_ptr<T>& pointer) { Pointer(pointer); }
     SharedReference(const std::weak_ptr<T>& pointer) { Pointer(pointer); }
