@@ -89,7 +89,7 @@ def main():
     results.mkdir(exist_ok=True)
     times = measure(str(build / "qiv_bench"))
     counted = subprocess.run([str(build / "qiv_allocations")], check=True, stdout=subprocess.PIPE, text=True).stdout
-    rows = list(ratios(times))
+    rows = sorted(ratios(times), key=lambda row: (row[0], row[2]))
     table = markdown(rows, times, [line.split("|") for line in counted.splitlines()])
     print(table)
     (results / "ratios.md").write_text(table)
