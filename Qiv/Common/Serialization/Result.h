@@ -2,6 +2,7 @@
 
 #include <Qiv/Common/Serialization/Export.h>
 
+#include <memory>
 #include <string>
 
 namespace Qiv::Common::Serialization
@@ -18,18 +19,25 @@ public:
     Result() noexcept = default;
 
     /// A failure with this message, also when the message is empty. A null pointer counts as the empty text.
-    Result(const char* errorMessage) : success_(false), errorMessage_(errorMessage == nullptr ? "" : errorMessage) {}
-    Result(const std::string& errorMessage) : success_(false), errorMessage_(errorMessage) {}
+    [[gnu::cold]] Result(const char* errorMessage);
+    [[gnu::cold]] Result(const std::string& errorMessage);
+
+    Result(const Result& other);
+    Result& operator=(const Result& other);
+    /// A moved-from failure is to be assigned to or destroyed only.
+    Result(Result&&) noexcept = default;
+    Result& operator=(Result&&) noexcept = default;
+    ~Result() = default;
 
     /// True when the conversion succeeded. Deliberately not explicit: callers store it in a `bool`.
-    operator bool() const noexcept { return success_; }
+    operator bool() const noexcept { return __builtin_expect(errorMessage_ == nullptr, true) != 0; }
 
     /// The failure's text, null-terminated; empty on success. Valid as long as this object is.
-    const char* ErrorMessage() const noexcept { return errorMessage_.c_str(); }
+    const char* ErrorMessage() const noexcept { return errorMessage_ == nullptr ? "" : errorMessage_->c_str(); }
 
 private:
-    bool success_ = true;
-    std::string errorMessage_;
+    // Null on success: every nested conversion returns a result, so passing on a success has to cost next to nothing.
+    std::unique_ptr<const std::string> errorMessage_;
 };
 
 } // namespace Qiv::Common::Serialization
