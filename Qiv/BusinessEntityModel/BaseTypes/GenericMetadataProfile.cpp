@@ -80,7 +80,8 @@ bool GenericMetadataProfile::Erase(const std::string& key)
 
 void GenericMetadataProfile::Set(std::string key, std::string value)
 {
-    dictionary_.insert_or_assign(std::move(key), std::move(value));
+    // Keys mostly come in order, since readers find them so: then this is the place at once.
+    dictionary_.insert_or_assign(dictionary_.end(), std::move(key), std::move(value));
 }
 
 std::string GenericMetadataProfile::Get(const std::string& key) const

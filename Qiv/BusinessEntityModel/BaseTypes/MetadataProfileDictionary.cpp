@@ -53,7 +53,7 @@ void MetadataProfileDictionary::Set(const std::shared_ptr<MetadataProfile>& prof
 
 void MetadataProfileDictionary::Set(const FullyQualifiedName& name, const std::shared_ptr<MetadataProfile>& profile)
 {
-    values_.insert_or_assign(name, profile);
+    values_.insert_or_assign(values_.end(), name, profile); // the place at once when names come in order
 }
 
 bool MetadataProfileDictionary::Erase(const FullyQualifiedName& name)

@@ -23,11 +23,11 @@ public:
     SharedReference(const Identifier& id) : id_(id) {}
     SharedReference(Identifier&& id) noexcept : id_(std::move(id)) {}
     /// A null or expired pointer gives an empty reference.
-    SharedReference(const std::shared_ptr<T>& pointer) { Pointer(pointer); }
+    SharedReference(std::shared_ptr<T> pointer) { Pointer(std::move(pointer)); }
     SharedReference(const std::weak_ptr<T>& pointer) { Pointer(pointer); }
     SharedReference(std::unique_ptr<T>&& pointer) { Pointer(std::move(pointer)); }
 
-    SharedReference& operator=(const std::shared_ptr<T>& pointer) { return *this = SharedReference(pointer); }
+    SharedReference& operator=(std::shared_ptr<T> pointer) { return *this = SharedReference(std::move(pointer)); }
     SharedReference& operator=(const std::weak_ptr<T>& pointer) { return *this = SharedReference(pointer); }
     SharedReference& operator=(std::unique_ptr<T>&& pointer) { return *this = SharedReference(std::move(pointer)); }
 
@@ -43,9 +43,9 @@ public:
     const std::shared_ptr<T>& Pointer() const noexcept { return pointer_; }
     std::shared_ptr<T>& Pointer() noexcept { return pointer_; }
     /// Sets the object and copies its identifier. A null or expired pointer drops the object and keeps the identifier.
-    void Pointer(const std::shared_ptr<T>& pointer)
+    void Pointer(std::shared_ptr<T> pointer)
     {
-        pointer_ = pointer;
+        pointer_ = std::move(pointer);
         UpdateIdentifier();
     }
     void Pointer(const std::weak_ptr<T>& pointer) { Pointer(pointer.lock()); }

@@ -2,6 +2,7 @@
 
 #include <Qiv/Common/Serialization/Export.h>
 #include <Qiv/Common/Serialization/Json/JsonObject.h>
+#include <Qiv/Common/Serialization/Json/KeyTable.h>
 #include <Qiv/Common/Serialization/Result.h>
 
 #include <array>
@@ -16,15 +17,23 @@ namespace Qiv::Common::Serialization::Json
 /// True for what readers call "empty": null, any value that is not an object, and an object without members.
 inline bool IsEmptyObject(const JsonObject& json) noexcept
 {
-    return !json.isObject() || json.empty();
+    return json.type() != ::Json::objectValue || json.size() == 0;
+}
+
+/// The member itself unless it is absent or JSON's null. Asks for the type, since each of jsoncpp's `is...` is two
+/// calls.
+inline const JsonObject* IfNotNull(const JsonObject* member) noexcept
+{
+    return member != nullptr && member->type() != ::Json::nullValue ? member : nullptr;
 }
 
 /// The member `key` of a JSON object; null when `json` is not an object, and when the member is absent or null.
 /// Asks for the type first, since jsoncpp's own look-ups throw on arrays and scalars.
 inline const JsonObject* FindMember(const JsonObject& json, std::string_view key) noexcept
 {
-    const auto* const member = json.isObject() ? json.find(key.data(), key.data() + key.size()) : nullptr;
-    return member != nullptr && !member->isNull() ? member : nullptr;
+    const auto* const member =
+        json.type() == ::Json::objectValue ? json.find(key.data(), key.data() + key.size()) : nullptr;
+    return IfNotNull(member);
 }
 
 // The questions that readers ask of a member. Each also answers for an absent one, a null pointer.
@@ -63,71 +72,32 @@ inline std::optional<bool> IfBool(const JsonObject* member) noexcept
     return IfType(member, ::Json::booleanValue) ? std::optional<bool>(member->asBool()) : std::nullopt;
 }
 
-/// The failure "Invalid type X : Y expected" when the member "_type" is a text X other than the expected Y; success
-/// when it is that text, has another type, or is absent.
-QIV_COMMON_SERIALIZATION_EXPORT Result CheckType(const JsonObject* type, std::string_view expected);
+/// The failure "Invalid type X : Y expected" when the text X of the member "_type" is another one than the expected Y;
+/// success when it is that text, or nothing because the member is no text or absent.
+QIV_COMMON_SERIALIZATION_EXPORT Result CheckType(std::optional<std::string_view> type, std::string_view expected);
 
-/// The first eight bytes of a key as a number that orders like them; shorter keys are filled up with zeros.
-constexpr std::uint64_t KeyPrefix(std::string_view key) noexcept
-{
-    std::uint64_t prefix = 0;
-    for (std::size_t i = 0; i < sizeof prefix && i < key.size(); ++i)
-        prefix |= std::uint64_t{static_cast<unsigned char>(key[i])} << (56 - 8 * i);
-    return prefix;
-}
-
-/// A key that a reader knows.
-struct KnownKey
-{
-    constexpr KnownKey() = default;
-    constexpr explicit KnownKey(std::string_view name) noexcept : text(name), prefix(KeyPrefix(name)) {}
-
-    std::string_view text;
-    std::uint64_t prefix = 0;
-};
-
-/// Sets `members[i]` to the member with the text of `ascendingKeys[i]`, and leaves it alone when there is none.
-/// What `KnownMembers` does. Returns whether there are members at all.
-QIV_COMMON_SERIALIZATION_EXPORT bool FindMembers(const JsonObject& json, const KnownKey* ascendingKeys,
-                                                 std::size_t keyCount, const JsonObject** members) noexcept;
+/// Sets `members[i]` to the member with the i-th key of the table, and leaves it alone when there is none. What
+/// `KnownMembers` does. Returns whether there are members at all.
+QIV_COMMON_SERIALIZATION_EXPORT bool FindMembers(const JsonObject& json, const KeyTable& keys,
+                                                 const JsonObject** members) noexcept;
 
 /// The members of a JSON object that a reader knows, all found in one walk over the object.
 ///
 /// `Keys` describes them: an enumeration `Keys::Index` and a `constexpr std::array<std::string_view, N> Keys::names` in
-/// the same, byte-wise ascending order. The walk relies on jsoncpp keeping members in that order too, and costs about
-/// half of one look-up per key. A value that is not an object has no members. A null member counts as absent.
+/// the same order. The walk costs less than half of one look-up per key. A value that is not an object has no members.
+/// A null member counts as absent.
 ///
 /// Never throws; refers to the object that it was made from.
 template <typename Keys>
 class KnownMembers
 {
     static constexpr std::size_t count = Keys::names.size();
-
-    static constexpr bool IsAscending()
-    {
-        for (std::size_t i = 1; i < count; ++i)
-            if (!(Keys::names[i - 1] < Keys::names[i]))
-                return false;
-        return true;
-    }
-    static_assert(IsAscending(), "list the keys in byte-wise ascending order");
-
-    static constexpr std::array<KnownKey, count> MakeKeys()
-    {
-        std::array<KnownKey, count> result{};
-        for (std::size_t i = 0; i < count; ++i)
-            result[i] = KnownKey(Keys::names[i]);
-        return result;
-    }
-    static constexpr std::array<KnownKey, count> keys = MakeKeys();
+    static constexpr KeyTable keys{Keys::names};
 
 public:
     using Index = typename Keys::Index;
 
-    explicit KnownMembers(const JsonObject& json) noexcept
-    {
-        isEmpty_ = !FindMembers(json, keys.data(), count, members_.data());
-    }
+    explicit KnownMembers(const JsonObject& json) noexcept { isEmpty_ = !FindMembers(json, keys, members_.data()); }
 
     /// What IsEmptyObject says of the object.
     bool IsEmpty() const noexcept { return isEmpty_; }
@@ -135,11 +105,7 @@ public:
     // Always inline: merged copies of them for two sizes of key set make g++ warn of array bounds.
 
     /// The member, whatever its type; null when it is absent or null.
-    [[gnu::always_inline]] const JsonObject* Any(Index key) const noexcept
-    {
-        const auto* const member = Found(key);
-        return member != nullptr && !member->isNull() ? member : nullptr;
-    }
+    [[gnu::always_inline]] const JsonObject* Any(Index key) const noexcept { return IfNotNull(Found(key)); }
 
     /// The member when it is of the type, otherwise null or nothing.
     [[gnu::always_inline]] const JsonObject* Object(Index key) const noexcept

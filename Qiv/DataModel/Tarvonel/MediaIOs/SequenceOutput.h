@@ -21,6 +21,13 @@ public:
     class QIV_DATAMODEL_TARVONEL_EXPORT AssetBlockOutput
     {
     public:
+        AssetBlockOutput();
+        AssetBlockOutput(const AssetBlockOutput&);
+        AssetBlockOutput(AssetBlockOutput&&) noexcept;
+        AssetBlockOutput& operator=(const AssetBlockOutput&);
+        AssetBlockOutput& operator=(AssetBlockOutput&&) noexcept;
+        ~AssetBlockOutput();
+
         /// The identifier of the block within the sequence.
         const BusinessEntityModel::BaseTypes::Identifier& Id() const noexcept { return id_; }
         void Id(const BusinessEntityModel::BaseTypes::Identifier& id) { id_ = id; }
@@ -46,6 +53,13 @@ public:
         BusinessEntityModel::BaseTypes::Identifier id_;
         BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset> mediaAssetRef_;
     };
+
+    SequenceOutput();
+    SequenceOutput(const SequenceOutput&);
+    SequenceOutput(SequenceOutput&&) noexcept;
+    SequenceOutput& operator=(const SequenceOutput&);
+    SequenceOutput& operator=(SequenceOutput&&) noexcept;
+    ~SequenceOutput();
 
     const BusinessEntityModel::BaseTypes::SharedReference<BusinessEntityModel::Edits::Sequence>&
     SequenceOnAir() const noexcept

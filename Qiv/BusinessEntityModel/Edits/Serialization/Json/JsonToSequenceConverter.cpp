@@ -32,7 +32,7 @@ Result JsonToSequenceConverter::To(const JsonObject& json, Sequence& sequence) c
     const KnownMembers<Keys> members(json);
     if (members.IsEmpty())
         return "Sequence is empty";
-    if (auto result = CheckType(members.Any(Key::Type), "Sequence"); !result)
+    if (auto result = CheckType(members.Text(Key::Type), "Sequence"); !result)
         return result;
 
     if (const auto id = members.Text(Key::Id))

@@ -38,7 +38,7 @@ Result JsonToMediaAssetConverter::To(const JsonObject& json, MediaAsset& mediaAs
     const KnownMembers<Keys> members(json);
     if (members.IsEmpty())
         return "MediaAsset is empty";
-    if (auto result = CheckType(members.Any(Key::Type), "MediaAsset"); !result)
+    if (auto result = CheckType(members.Text(Key::Type), "MediaAsset"); !result)
         return result;
 
     if (const auto id = members.Text(Key::Id))

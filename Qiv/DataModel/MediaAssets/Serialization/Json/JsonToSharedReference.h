@@ -63,6 +63,7 @@ public:
     {
         using Common::Serialization::Json::FindMember;
         using Common::Serialization::Json::IfText;
+        using Common::Serialization::Json::IfType;
 
         const Common::Serialization::Json::KnownMembers<Keys> members(json);
         const auto* const type = members.Any(Keys::Index::Type);
@@ -72,14 +73,14 @@ public:
         const auto* const id = members.Any(Keys::Index::Id);
         if (id != nullptr && (json.size() == 1 || (json.size() == 2 && type != nullptr)))
         {
-            if (id->isArray() || id->isObject())
+            if (id->type() == ::Json::arrayValue || id->type() == ::Json::objectValue)
                 return "Bad format";
             reference = Reference(BusinessEntityModel::BaseTypes::Identifier(id->asString()));
             return {};
         }
 
         const auto* const embedded = FindMember(json, embeddedProperty_);
-        if (embedded == nullptr || !embedded->isObject() || fromJsonConverter_ == nullptr)
+        if (IfType(embedded, ::Json::objectValue) == nullptr || fromJsonConverter_ == nullptr)
             return "Bad format";
         auto object = std::make_shared<T>();
         if (auto result = fromJsonConverter_->To(*embedded, *object); !result)

@@ -56,7 +56,7 @@ Result JsonToTimePointConverter::To(const JsonObject& json, TimePoint& timePoint
     const KnownMembers<NanosecondsObjectKeys> members(json);
     if (members.IsEmpty())
         return "TimePoint is empty";
-    if (auto result = CheckType(members.Any(Key::Type), "TimePoint"); !result)
+    if (auto result = CheckType(members.Text(Key::Type), "TimePoint"); !result)
         return result;
 
     const auto nanoseconds = Nanoseconds(members.Any(Key::Value));

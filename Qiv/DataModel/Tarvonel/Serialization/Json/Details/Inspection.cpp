@@ -159,7 +159,8 @@ bool Inspection::HasTag(const JsonObject& object, const Shape& shape)
         Report(FindingKind::InvalidValue, *tag, sentence.append("; the object around it is skipped"));
     else
         ReportFailure(*tag, sentence,
-                      shape.withoutTag != nullptr ? shape.withoutTag : CheckType(tag, shape.tag).ErrorMessage());
+                      shape.withoutTag != nullptr ? shape.withoutTag
+                                                  : CheckType(IfText(tag), shape.tag).ErrorMessage());
     return false;
 }
 

@@ -76,26 +76,29 @@ Result ReadAbsolute(const BoundaryMembers& members, std::unique_ptr<Boundary>& b
     return {};
 }
 
-} // namespace
-
-JsonToBoundaryConverter::~JsonToBoundaryConverter() = default;
-
-Result JsonToBoundaryConverter::To(const JsonObject& json, std::unique_ptr<Boundary>& boundary) const noexcept
+Result ReadAny(const BoundaryMembers& members, std::unique_ptr<Boundary>& boundary)
 {
-    if (IsEmptyObject(json))
-        return "Boundary is empty";
-    return Append(json, boundary);
-}
-
-Result JsonToBoundaryConverter::Append(const JsonObject& json, std::unique_ptr<Boundary>& boundary) const noexcept
-{
-    const BoundaryMembers members(json);
     const auto type = members.Text(Key::Type);
     if (type == "BoundaryAbsolute")
         return ReadAbsolute(members, boundary);
     if (type == "BoundaryRelative")
         return ReadRelative(members, boundary);
     return "Invalid _type";
+}
+
+} // namespace
+
+JsonToBoundaryConverter::~JsonToBoundaryConverter() = default;
+
+Result JsonToBoundaryConverter::To(const JsonObject& json, std::unique_ptr<Boundary>& boundary) const noexcept
+{
+    const BoundaryMembers members(json);
+    return members.IsEmpty() ? Result("Boundary is empty") : ReadAny(members, boundary);
+}
+
+Result JsonToBoundaryConverter::Append(const JsonObject& json, std::unique_ptr<Boundary>& boundary) const noexcept
+{
+    return ReadAny(BoundaryMembers(json), boundary);
 }
 
 Result JsonToBoundaryConverter::AppendBoundaryAbsolute(const JsonObject& json,

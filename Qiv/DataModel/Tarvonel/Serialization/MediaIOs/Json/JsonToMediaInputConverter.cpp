@@ -23,7 +23,7 @@ Result JsonToMediaInputConverter::To(const JsonObject& json, MediaInput& channel
     const ChannelMembers members(json);
     if (members.IsEmpty())
         return "MediaInput is empty";
-    if (auto result = CheckType(members.Any(ChannelKey::Type), "MediaInput"); !result)
+    if (auto result = CheckType(members.Text(ChannelKey::Type), "MediaInput"); !result)
         return result;
     if (auto result = Details::AppendCommon(members, channel); !result)
         return result;

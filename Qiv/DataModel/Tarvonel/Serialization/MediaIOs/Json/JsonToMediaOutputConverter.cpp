@@ -64,7 +64,7 @@ Result JsonToMediaOutputConverter::To(const JsonObject& json, MediaOutput& chann
     const ChannelMembers members(json);
     if (members.IsEmpty())
         return "MediaOutput is empty";
-    if (auto result = CheckType(members.Any(ChannelKey::Type), "MediaOutput"); !result)
+    if (auto result = CheckType(members.Text(ChannelKey::Type), "MediaOutput"); !result)
         return result;
     if (auto result = Details::AppendCommon(members, channel); !result)
         return result;

@@ -39,13 +39,11 @@ void ReadOperatorProfile(const JsonObject& json, MetadataProfileDictionary& dict
 
 GenericMetadataProfile& GenericProfile(std::string_view name, MetadataProfileDictionary& dictionary)
 {
-    auto profile = dictionary.Find(name);
-    if (profile == nullptr)
-    {
-        profile = std::make_shared<GenericMetadataProfile>(FullyQualifiedName(std::string(name)));
-        dictionary.Set(profile);
-    }
-    return dynamic_cast<GenericMetadataProfile&>(*profile);
+    if (const auto existing = dictionary.Find(name))
+        return dynamic_cast<GenericMetadataProfile&>(*existing);
+    const auto created = std::make_shared<GenericMetadataProfile>(FullyQualifiedName(std::string(name)));
+    dictionary.Set(created);
+    return *created;
 }
 
 } // namespace

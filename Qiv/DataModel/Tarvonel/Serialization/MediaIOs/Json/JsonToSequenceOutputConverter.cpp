@@ -52,7 +52,7 @@ Result JsonToSequenceOutputConverter::To(const JsonObject& json, SequenceOutput&
     const KnownMembers<SequenceOutputKeys> members(json);
     if (members.IsEmpty())
         return "SequenceOutput is empty";
-    if (auto result = CheckType(members.Any(Key::Type), "SequenceOutput"); !result)
+    if (auto result = CheckType(members.Text(Key::Type), "SequenceOutput"); !result)
         return result;
 
     if (const auto* sequenceOnAir = members.Object(Key::SequenceOnAir))
@@ -91,7 +91,7 @@ Result JsonToSequenceOutputConverter::ToAssetBlockOutput(const JsonObject& json,
     using Key = AssetBlockKeys::Index;
 
     const KnownMembers<AssetBlockKeys> members(json);
-    if (auto result = CheckType(members.Any(Key::Type), "AssetBlockOnAir"); !result)
+    if (auto result = CheckType(members.Text(Key::Type), "AssetBlockOnAir"); !result)
         return result;
 
     if (const auto id = members.Text(Key::Id))

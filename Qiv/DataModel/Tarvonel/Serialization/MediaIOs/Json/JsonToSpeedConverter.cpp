@@ -32,7 +32,7 @@ Result JsonToSpeedConverter::To(const JsonObject& json, Speed& speed) const noex
     const KnownMembers<Keys> members(json);
     if (members.IsEmpty())
         return "Speed is empty";
-    if (auto result = CheckType(members.Any(Key::Type), "Speed"); !result)
+    if (auto result = CheckType(members.Text(Key::Type), "Speed"); !result)
         return result;
 
     const auto numerator = members.Int(Key::Numerator);

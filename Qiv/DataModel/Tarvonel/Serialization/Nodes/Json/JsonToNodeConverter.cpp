@@ -62,7 +62,7 @@ Result JsonToNodeConverter::To(const JsonObject& json, Node& node) const
     const KnownMembers<Keys> members(json);
     if (members.IsEmpty())
         return "Node is null";
-    if (auto result = CheckType(members.Any(Key::Type), "Node"); !result)
+    if (auto result = CheckType(members.Text(Key::Type), "Node"); !result)
         return result;
     const auto id = members.Text(Key::Id);
     if (!id)
