@@ -31,6 +31,9 @@ function(qiv_add_library name)
     add_library(${name} SHARED ${library_SOURCES})
     add_library(Qiv::${short_name} ALIAS ${name})
     qiv_set_up_target(${name})
+    # Calls across libraries go without a detour, and those inside one may be inlined: a conversion passes through many
+    # small functions, so the instruction cache is what it is short of.
+    target_compile_options(${name} PRIVATE -fno-plt -fno-semantic-interposition)
     set_target_properties(${name} PROPERTIES
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}
