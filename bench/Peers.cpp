@@ -297,89 +297,34 @@ Json::Value ToJsoncpp(const MediaInput& channel)
     return MediaInputTree<Json::Value>(channel);
 }
 
-// -- Reading: the same code for both trees, over the few questions in which they differ
+// -- Reading from jsoncpp's tree: one plain look-up of each member
 
 namespace
 {
 
-// The member of a tree, or null. One look-up each.
+// The member of a tree, or null.
 const Json::Value* Find(const Json::Value& json, const char* key)
 {
     const auto& member = json[key];
     return member.isNull() ? nullptr : &member;
 }
 
-const nlohmann::json* Find(const nlohmann::json& json, const char* key)
+template <typename Apply>
+void IfText(const Json::Value& json, const char* key, Apply apply)
 {
-    const auto member = json.find(key);
-    return member == json.end() ? nullptr : &*member;
+    if (const auto* member = Find(json, key); member != nullptr && member->isString())
+        apply(member->asString());
 }
 
-bool IsText(const Json::Value& json)
+template <typename Apply>
+void IfObject(const Json::Value& json, const char* key, Apply apply)
 {
-    return json.isString();
-}
-bool IsText(const nlohmann::json& json)
-{
-    return json.is_string();
-}
-bool IsObject(const Json::Value& json)
-{
-    return json.isObject();
-}
-bool IsObject(const nlohmann::json& json)
-{
-    return json.is_object();
-}
-bool IsInt(const Json::Value& json)
-{
-    return json.isInt();
-}
-bool IsInt(const nlohmann::json& json)
-{
-    return json.is_number_integer();
-}
-std::string Text(const Json::Value& json)
-{
-    return json.asString();
-}
-const std::string& Text(const nlohmann::json& json)
-{
-    return json.get_ref<const std::string&>();
-}
-int Int(const Json::Value& json)
-{
-    return json.asInt();
-}
-int Int(const nlohmann::json& json)
-{
-    return json.get<int>();
-}
-bool Bool(const Json::Value& json)
-{
-    return json.asBool();
-}
-bool Bool(const nlohmann::json& json)
-{
-    return json.get<bool>();
-}
-
-template <typename Tree, typename Apply>
-void IfText(const Tree& json, const char* key, Apply apply)
-{
-    if (const auto* member = Find(json, key); member != nullptr && IsText(*member))
-        apply(Text(*member));
-}
-
-template <typename Tree, typename Apply>
-void IfObject(const Tree& json, const char* key, Apply apply)
-{
-    if (const auto* member = Find(json, key); member != nullptr && IsObject(*member))
+    if (const auto* member = Find(json, key); member != nullptr && member->isObject())
         apply(*member);
 }
 
-template <typename Tree, typename Apply>
-void IfTimeCode(const Tree& json, const char* key, Apply apply)
+template <typename Apply>
+void IfTimeCode(const Json::Value& json, const char* key, Apply apply)
 {
     IfText(json, key,
            [&](const std::string& text)
@@ -390,11 +335,11 @@ void IfTimeCode(const Tree& json, const char* key, Apply apply)
            });
 }
 
-template <typename Tree, typename Apply>
-void IfNanoseconds(const Tree& json, const char* key, const char* type, Apply apply)
+template <typename Apply>
+void IfNanoseconds(const Json::Value& json, const char* key, const char* type, Apply apply)
 {
     IfObject(json, key,
-             [&](const Tree& object)
+             [&](const Json::Value& object)
              {
                  IfText(object, "_type",
                         [&](const std::string& found)
@@ -412,22 +357,22 @@ void IfNanoseconds(const Tree& json, const char* key, const char* type, Apply ap
              });
 }
 
-template <typename Tree, typename Apply>
-void IfTimePoint(const Tree& json, const char* key, Apply apply)
+template <typename Apply>
+void IfTimePoint(const Json::Value& json, const char* key, Apply apply)
 {
     IfNanoseconds(json, key, "TimePoint", [&](Duration value) { apply(TimePoint(value.Nanoseconds())); });
 }
 
-template <typename Tree, typename Apply>
-void IfAssetReference(const Tree& json, const char* key, Apply apply)
+template <typename Apply>
+void IfAssetReference(const Json::Value& json, const char* key, Apply apply)
 {
     IfObject(json, key,
-             [&](const Tree& reference)
+             [&](const Json::Value& reference)
              {
                  SharedReference<MediaAsset> result;
                  IfText(reference, "id", [&](const std::string& id) { result.Id(Identifier(id)); });
                  IfObject(reference, "mediaAsset",
-                          [&](const Tree& object)
+                          [&](const Json::Value& object)
                           {
                               auto asset = std::make_shared<MediaAsset>();
                               IfText(object, "id", [&](const std::string& id) { asset->Id(Identifier(id)); });
@@ -458,40 +403,34 @@ void ReadGenericProfiles(const Json::Value& metadata, MediaIO& channel)
             SetMetadata(channel, member.name(), member->asString());
 }
 
-void ReadGenericProfiles(const nlohmann::json& metadata, MediaIO& channel)
-{
-    for (const auto& [name, value] : metadata.items())
-        if (value.is_string())
-            SetMetadata(channel, name, value.get_ref<const std::string&>());
-}
-
-template <typename Tree>
-void ReadCommon(const Tree& json, MediaIO& channel)
+void ReadCommon(const Json::Value& json, MediaIO& channel)
 {
     IfText(json, "id", [&](const std::string& id) { channel.Id(Identifier(id)); });
     IfText(json, "name", [&](const std::string& name) { channel.Name(Utf8String(name)); });
     IfAssetReference(json, "mediaAssetOnAir",
                      [&](const SharedReference<MediaAsset>& reference) { channel.MediaAssetOnAir(reference); });
     IfObject(json, "metadata",
-             [&](const Tree& metadata)
+             [&](const Json::Value& metadata)
              {
                  PelOperatorMetadataProfile profile;
                  const auto* serverId = Find(metadata, "qiv.peloperator.serverId");
                  const auto* index = Find(metadata, "qiv.peloperator.index");
-                 if (serverId != nullptr && IsInt(*serverId))
-                     profile.ServerId(Int(*serverId));
-                 if (index != nullptr && IsInt(*index))
-                     profile.Index(Int(*index));
+                 if (serverId != nullptr && serverId->isInt())
+                     profile.ServerId(serverId->asInt());
+                 if (index != nullptr && index->isInt())
+                     profile.Index(index->asInt());
                  if (serverId != nullptr || index != nullptr)
                      channel.Metadata().Set(std::make_shared<PelOperatorMetadataProfile>(profile));
                  ReadGenericProfiles(metadata, channel);
              });
 }
 
-template <typename Tree>
-void ReadInput(const Tree& json, MediaInput& channel)
+} // namespace
+
+void Read(const Json::Value& json, MediaInput& channel)
 {
-    if (const auto* type = Find(json, "_type"); type == nullptr || !IsText(*type) || Text(*type) != "MediaInput")
+    if (const auto* type = Find(json, "_type");
+        type == nullptr || !type->isString() || type->asString() != "MediaInput")
         return;
     ReadCommon(json, channel);
     IfText(json, "recordingStatus", [&](const std::string& text) { channel.RecordingStatus(ToRecordingStatus(text)); });
@@ -504,8 +443,10 @@ void ReadInput(const Tree& json, MediaInput& channel)
     IfNanoseconds(json, "totalCapacity", "Duration", [&](Duration value) { channel.TotalCapacity(value); });
 }
 
-template <typename Tree>
-SequenceOutput::AssetBlockOutput BlockOf(const Tree& json)
+namespace
+{
+
+SequenceOutput::AssetBlockOutput BlockOf(const Json::Value& json)
 {
     SequenceOutput::AssetBlockOutput block;
     IfText(json, "id", [&](const std::string& id) { block.Id(Identifier(id)); });
@@ -514,8 +455,7 @@ SequenceOutput::AssetBlockOutput BlockOf(const Tree& json)
     return block;
 }
 
-template <typename Tree>
-std::unique_ptr<Boundary> BoundaryOf(const Tree& json)
+std::unique_ptr<Boundary> BoundaryOf(const Json::Value& json)
 {
     std::unique_ptr<Boundary> boundary;
     IfText(json, "_type",
@@ -531,48 +471,50 @@ std::unique_ptr<Boundary> BoundaryOf(const Tree& json)
                {
                    auto relative = std::make_unique<BoundaryRelative>();
                    IfText(json, "origin", [&](const std::string& text) { relative->Origin(ToBoundaryOrigin(text)); });
-                   if (const auto* offset = Find(json, "offset"); offset != nullptr && IsInt(*offset))
-                       relative->Offset(Int(*offset));
+                   if (const auto* offset = Find(json, "offset"); offset != nullptr && offset->isInt())
+                       relative->Offset(offset->asInt());
                    boundary = std::move(relative);
                }
            });
     return boundary;
 }
 
-template <typename Tree>
-void ReadOutput(const Tree& json, MediaOutput& channel)
+} // namespace
+
+void Read(const Json::Value& json, MediaOutput& channel)
 {
-    if (const auto* type = Find(json, "_type"); type == nullptr || !IsText(*type) || Text(*type) != "MediaOutput")
+    if (const auto* type = Find(json, "_type");
+        type == nullptr || !type->isString() || type->asString() != "MediaOutput")
         return;
     ReadCommon(json, channel);
     IfText(json, "playingStatus", [&](const std::string& text) { channel.PlayingStatus(ToPlayingStatus(text)); });
     IfObject(json, "speedOnAir",
-             [&](const Tree& speed)
+             [&](const Json::Value& speed)
              {
                  const auto* numerator = Find(speed, "numerator");
                  const auto* denominator = Find(speed, "denominator");
-                 if (numerator != nullptr && IsInt(*numerator) && denominator != nullptr && IsInt(*denominator))
-                     channel.SpeedOnAir(Speed(Int(*numerator), static_cast<std::uint32_t>(Int(*denominator))));
+                 if (numerator != nullptr && numerator->isInt() && denominator != nullptr && denominator->isInt())
+                     channel.SpeedOnAir(Speed(numerator->asInt(), static_cast<std::uint32_t>(denominator->asInt())));
              });
     IfText(json, "globalLoopMode", [&](const std::string& text) { channel.GlobalLoopMode(ToPlayingLoopMode(text)); });
     IfNanoseconds(json, "remainingTime", "Duration", [&](Duration value) { channel.RemainingTime(value); });
     IfObject(json, "sequence",
-             [&](const Tree& object)
+             [&](const Json::Value& object)
              {
                  SequenceOutput sequence;
                  IfObject(object, "sequenceOnAir",
-                          [&](const Tree& reference)
+                          [&](const Json::Value& reference)
                           {
                               SharedReference<Sequence> result;
                               IfText(reference, "id", [&](const std::string& id) { result.Id(Identifier(id)); });
                               sequence.SequenceOnAir(result);
                           });
                  IfObject(object, "assetBlockOnAir",
-                          [&](const Tree& block) { sequence.AssetBlockOnAir(BlockOf(block)); });
+                          [&](const Json::Value& block) { sequence.AssetBlockOnAir(BlockOf(block)); });
                  IfObject(object, "nextAssetBlockOnAir",
-                          [&](const Tree& block) { sequence.NextAssetBlockOnAir(BlockOf(block)); });
+                          [&](const Json::Value& block) { sequence.NextAssetBlockOnAir(BlockOf(block)); });
                  if (const auto* editMode = Find(object, "editMode"))
-                     sequence.EditMode(Bool(*editMode));
+                     sequence.EditMode(editMode->asBool());
                  channel.Sequence(sequence);
              });
     IfTimePoint(json, "currentTimePointOnAir", [&](TimePoint point) { channel.CurrentTimePointOnAir(point); });
@@ -580,27 +522,8 @@ void ReadOutput(const Tree& json, MediaOutput& channel)
     IfTimeCode(json, "userTimecodeOnAir", [&](const TimeCode& timeCode) { channel.UserTimecodeOnAir(timeCode); });
     IfText(json, "primaryTimecodeType",
            [&](const std::string& text) { channel.PrimaryTimecodeType(ToTimecodePrimary(text)); });
-    IfObject(json, "inBoundary", [&](const Tree& object) { channel.InBoundary(BoundaryOf(object)); });
-    IfObject(json, "outBoundary", [&](const Tree& object) { channel.OutBoundary(BoundaryOf(object)); });
-}
-
-} // namespace
-
-void Read(const Json::Value& json, MediaInput& channel)
-{
-    ReadInput(json, channel);
-}
-void Read(const Json::Value& json, MediaOutput& channel)
-{
-    ReadOutput(json, channel);
-}
-void Read(const nlohmann::json& json, MediaInput& channel)
-{
-    ReadInput(json, channel);
-}
-void Read(const nlohmann::json& json, MediaOutput& channel)
-{
-    ReadOutput(json, channel);
+    IfObject(json, "inBoundary", [&](const Json::Value& object) { channel.InBoundary(BoundaryOf(object)); });
+    IfObject(json, "outBoundary", [&](const Json::Value& object) { channel.OutBoundary(BoundaryOf(object)); });
 }
 
 } // namespace Bench

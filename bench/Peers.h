@@ -23,6 +23,7 @@ Json::Value ToJsoncpp(const MediaInput& channel);
 /// One plain look-up of each member.
 void Read(const Json::Value& json, MediaInput& channel);
 void Read(const Json::Value& json, MediaOutput& channel);
+/// With nlohmann's from_json.
 void Read(const nlohmann::json& json, MediaInput& channel);
 void Read(const nlohmann::json& json, MediaOutput& channel);
 
