@@ -223,6 +223,24 @@ void RegisterReaders(const std::string& name, const Entity& entity)
                               DoNotOptimize(target);
                           }
                       });
+    // Where the time of the next pair goes: what jsoncpp, the library's parser, takes of it.
+    RegisterBenchmark(("text to tree of " + name + "|library").c_str(),
+                      [text](State& state)
+                      {
+                          const std::unique_ptr<Json::CharReader> parser(Json::CharReaderBuilder().newCharReader());
+                          for (auto _ : state)
+                          {
+                              Json::Value json;
+                              parser->parse(text.data(), text.data() + text.size(), &json, nullptr);
+                              DoNotOptimize(json);
+                          }
+                      });
+    RegisterBenchmark(("text to tree of " + name + "|nlohmann").c_str(),
+                      [text](State& state)
+                      {
+                          for (auto _ : state)
+                              DoNotOptimize(nlohmann::json::parse(text));
+                      });
     RegisterBenchmark(("text to " + name + "|library").c_str(),
                       [text](State& state)
                       {
