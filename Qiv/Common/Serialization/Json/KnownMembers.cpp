@@ -12,25 +12,24 @@ Result CheckType(std::optional<std::string_view> type, std::string_view expected
     return std::string("Invalid type ").append(*type).append(" : ").append(expected).append(" expected");
 }
 
-bool FindMembers(const JsonObject& json, const KeyTable& keys, const JsonObject** members) noexcept
+std::size_t FindMembers(const JsonObject& json, const KeyTable& keys, const JsonObject** members) noexcept
 {
-    // begin() and size() would take an array too.
-    if (json.type() != ::Json::objectValue)
-        return false;
-
-    auto left = json.size();
-    if (left == 0)
-        return false;
+    const auto size = json.size(); // 0 for scalars
+    if (size == 0)
+        return 0;
+    auto left = size;
     for (auto member = json.begin();; ++member)
     {
         const char* nameEnd = nullptr;
         const char* const nameBegin = member.memberName(&nameEnd);
+        if (nameBegin == nullptr) // an array
+            return 0;
         const std::string_view name(nameBegin, static_cast<std::size_t>(nameEnd - nameBegin));
         const auto candidate = keys.Candidate(name);
         if (name == keys.Key(candidate))
             members[candidate] = &*member;
         if (--left == 0)
-            return true;
+            return size;
     }
 }
 

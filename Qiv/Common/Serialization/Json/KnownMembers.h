@@ -77,9 +77,9 @@ inline std::optional<bool> IfBool(const JsonObject* member) noexcept
 QIV_COMMON_SERIALIZATION_EXPORT Result CheckType(std::optional<std::string_view> type, std::string_view expected);
 
 /// Sets `members[i]` to the member with the i-th key of the table, and leaves it alone when there is none. What
-/// `KnownMembers` does. Returns whether there are members at all.
-QIV_COMMON_SERIALIZATION_EXPORT bool FindMembers(const JsonObject& json, const KeyTable& keys,
-                                                 const JsonObject** members) noexcept;
+/// `KnownMembers` does. Returns the number of all members of the object; 0 for a value that is none.
+QIV_COMMON_SERIALIZATION_EXPORT std::size_t FindMembers(const JsonObject& json, const KeyTable& keys,
+                                                        const JsonObject** members) noexcept;
 
 /// The members of a JSON object that a reader knows, all found in one walk over the object.
 ///
@@ -97,10 +97,12 @@ class KnownMembers
 public:
     using Index = typename Keys::Index;
 
-    explicit KnownMembers(const JsonObject& json) noexcept { isEmpty_ = !FindMembers(json, keys, members_.data()); }
+    explicit KnownMembers(const JsonObject& json) noexcept { size_ = FindMembers(json, keys, members_.data()); }
 
     /// What IsEmptyObject says of the object.
-    bool IsEmpty() const noexcept { return isEmpty_; }
+    bool IsEmpty() const noexcept { return size_ == 0; }
+    /// The number of all members, known or not.
+    std::size_t Size() const noexcept { return size_; }
 
     // Always inline: merged copies of them for two sizes of key set make g++ warn of array bounds.
 
@@ -127,7 +129,7 @@ private:
     }
 
     std::array<const JsonObject*, count> members_{};
-    bool isEmpty_ = true;
+    std::size_t size_ = 0;
 };
 
 } // namespace Qiv::Common::Serialization::Json

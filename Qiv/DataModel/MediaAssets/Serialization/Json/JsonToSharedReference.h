@@ -71,7 +71,7 @@ public:
             return "Bad _type";
 
         const auto* const id = members.Any(Keys::Index::Id);
-        if (id != nullptr && (json.size() == 1 || (json.size() == 2 && type != nullptr)))
+        if (id != nullptr && (members.Size() == 1 || (members.Size() == 2 && type != nullptr)))
         {
             if (id->type() == ::Json::arrayValue || id->type() == ::Json::objectValue)
                 return "Bad format";
