@@ -5,7 +5,7 @@
 #include <Qiv/Common/Serialization/Json/Stringer.h>
 
 #include <cmath>
-#include <optional>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -53,6 +53,7 @@ public:
     {
         return !levels_.empty() && levels_.back().isObject == isObject && !levels_.back().hasKey;
     }
+    bool AwaitsValue() const { return !levels_.empty() && levels_.back().hasKey; }
     std::size_t Depth() const { return levels_.size(); }
     const std::string& Text() const { return text_; }
 
@@ -136,6 +137,7 @@ struct Pair
     {
         const auto text = writer.ToString();
         Check(text == model.Text(), "the text is that of the model", text, model.Text());
+        Check(writer.AwaitsValue() == model.AwaitsValue(), "a value is awaited after a key", text);
         Check(stream == nullptr || stream->str() == text, "a stream once asked for has all the text", text);
     }
 
@@ -164,7 +166,8 @@ struct Pair
     }
 
     void Value(double value);
-    void Scope(bool isObject, const char* key);
+    void Scope(bool isObject, const char* key, unsigned ending);
+    void ObjectOf(Input& input);
     void Step(Input& input);
 
     Stringer writer;
@@ -199,31 +202,103 @@ void Pair::Value(double value)
     model.Value(digits);
 }
 
-void Pair::Scope(bool isObject, const char* key)
+/// Writes through a scope that ends by itself or by an exception, with everything in it closed or not.
+void Pair::Scope(bool isObject, const char* key, unsigned ending)
 {
-    const bool isAllowed = key != nullptr ? model.TakesKey() : model.TakesValue();
+    struct Unwinding
+    {
+    };
+    const bool leavesOpen = (ending & 1U) != 0 && model.Depth() + 2 < deepest;
+    const bool unwinds = (ending & 2U) != 0;
+    const bool hasArgument = key != nullptr || (ending & 4U) != 0;
     const auto fill = [&](auto&& scope)
     {
         Check(&scope.GetStringer() == &writer, "the scope knows its writer");
-        writer.NullValue();
+        if (isObject)
+            writer.Key("in");
+        if (!leavesOpen)
+            writer.NullValue();
+        else if (!isObject)
+            writer.Object();
+        if (unwinds)
+            throw Unwinding();
     };
-    const bool hasRun =
-        isObject ? Run(isAllowed,
-                       [&]
-                       {
-                           auto scope = key != nullptr ? writer.ObjectScope(key) : writer.ObjectScope();
-                           writer.Key("in");
-                           fill(scope);
-                       })
-                 : Run(isAllowed, [&] { fill(key != nullptr ? writer.ArrayScope(key) : writer.ArrayScope()); });
-    if (!hasRun)
+    const auto use = [&]
+    {
+        if (isObject)
+            fill(hasArgument ? writer.ObjectScope(key) : writer.ObjectScope());
+        else
+            fill(hasArgument ? writer.ArrayScope(key) : writer.ArrayScope());
+    };
+
+    if (!(key != nullptr ? model.TakesKey() : model.TakesValue()))
+    {
+        Run(false, use);
         return;
+    }
+    bool hasEnded = false;
+    try
+    {
+        use();
+        hasEnded = true;
+    }
+    catch (const InvalidStringerState& error)
+    {
+        Check(leavesOpen && !unwinds, "a scope ends unless something in it is open", error.what(), model.Text());
+    }
+    catch (const Unwinding&)
+    {
+        Check(unwinds, "exceptions pass through a scope");
+    }
+    Check(hasEnded == !(leavesOpen || unwinds), "a scope does not end quietly with something open", model.Text());
+
     if (key != nullptr)
         model.Key(key);
     model.Open(isObject);
     if (isObject)
         model.Key("in");
-    model.Value("null");
+    if (!leavesOpen)
+    {
+        model.Value("null");
+        model.Close();
+    }
+    else if (!isObject)
+        model.Open(true);
+    CheckText();
+}
+
+void Pair::ObjectOf(Input& input)
+{
+    const ExactCopy texts[] = {ExactCopy(input.Text()), ExactCopy(input.Text()), ExactCopy(input.Text()),
+                               ExactCopy(input.Text()), ExactCopy(input.Text()), ExactCopy(input.Text())};
+    const std::pair<std::string_view, std::string_view> members[] = {
+        {texts[0].Text(), texts[1].Text()}, {texts[2].Text(), texts[3].Text()}, {texts[4].Text(), texts[5].Text()}};
+    const auto count = input.Byte() % (std::size(members) + 1);
+    const auto write = [&]
+    {
+        switch (count)
+        {
+        case 0:
+            writer.ObjectOf({});
+            break;
+        case 1:
+            writer.ObjectOf({members[0]});
+            break;
+        case 2:
+            writer.ObjectOf({members[0], members[1]});
+            break;
+        default:
+            writer.ObjectOf({members[0], members[1], members[2]});
+        }
+    };
+    if (!Run(model.TakesValue(), write))
+        return;
+    model.Open(true);
+    for (std::size_t i = 0; i < count; ++i)
+    {
+        model.Key(members[i].first);
+        model.Value(Quoted(members[i].second));
+    }
     model.Close();
 }
 
@@ -240,7 +315,7 @@ void Pair::Step(Input& input)
             model.Key(text);
     };
 
-    switch (input.Byte() % 25)
+    switch (input.Byte() % 26)
     {
     case 0:
     case 1:
@@ -321,12 +396,15 @@ void Pair::Step(Input& input)
         value([&] { writer.NullValue(); }, [] { return "null"; });
         break;
     case 18:
-        Scope(input.Byte() % 2 != 0, nullptr);
+    {
+        const unsigned flags = input.Byte();
+        Scope((flags & 1U) != 0, nullptr, flags >> 1U);
         break;
+    }
     case 19:
     {
         const std::string text(input.Text());
-        Scope(text.size() % 2 != 0, text.c_str());
+        Scope(text.size() % 2 != 0, text.c_str(), input.Byte());
         break;
     }
     case 20:
@@ -351,11 +429,30 @@ void Pair::Step(Input& input)
         }
         break;
     }
+    case 24:
+        ObjectOf(input);
+        break;
     default:
         try
         {
-            static_cast<void>(input.Byte() % 2 != 0 ? writer.Key(static_cast<const char*>(nullptr))
-                                                    : writer.Member("key", static_cast<const char*>(nullptr)));
+            const char* const null = nullptr;
+            switch (input.Byte() % 5)
+            {
+            case 0:
+                writer.Key(null);
+                break;
+            case 1:
+                writer.Value(null);
+                break;
+            case 2:
+                writer.Member(null, "value");
+                break;
+            case 3:
+                writer.Member("key", null);
+                break;
+            default:
+                Stringer::ToEscapedString(null);
+            }
             Check(false, "a null pointer is no text");
         }
         catch (const std::invalid_argument&)
@@ -376,7 +473,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     Pair second((flags & 2U) != 0);
     if ((flags & 4U) != 0)
     {
-        first.writer = Stringer(std::make_unique<std::stringstream>());
+        first.writer = Stringer((flags & 8U) != 0 ? nullptr : std::make_unique<std::stringstream>());
         first.model = Model(false);
     }
     while (!input.IsEmpty())
