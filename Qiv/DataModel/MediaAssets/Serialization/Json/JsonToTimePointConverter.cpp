@@ -28,7 +28,7 @@ std::optional<std::int64_t> WholeNumber(std::string_view text) noexcept
         const auto fits = text.front() == '-' || number.Nanoseconds() >= 0;
         return fits ? std::optional<std::int64_t>(number.Nanoseconds()) : std::nullopt;
     }
-    if (!text.empty() && text.front() == '+' && text.substr(1, 1) != "-")
+    if (text.front() == '+' && text.substr(1, 1) != "-")
         text.remove_prefix(1);
     std::int64_t number = 0;
     const auto* const end = text.data() + text.size();
