@@ -5,7 +5,6 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/References.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToMetadataProfileDictionaryConverter.h>
 
-#include <cstring>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -21,19 +20,6 @@ using Details::ChannelMembers;
 using Tarvonel::MediaIOs::MediaInput;
 using Tarvonel::MediaIOs::MediaIO;
 using Tarvonel::MediaIOs::MediaOutput;
-
-namespace
-{
-
-// An object that holds only common members is a valid channel.
-Result UnlessEmpty(Result result, const char* emptyMessage)
-{
-    if (!result && std::strcmp(result.ErrorMessage(), emptyMessage) == 0)
-        return {};
-    return result;
-}
-
-} // namespace
 
 JsonToMediaIOConverter::~JsonToMediaIOConverter() = default;
 
@@ -52,7 +38,7 @@ Result JsonToMediaIOConverter::To(const JsonObject& json, MediaIO& channel) cons
             return "Inconsistent types - cannot merge JSON-MediaInput source with MediaOutput destination.";
         if (auto result = Details::AppendCommon(members, channel); !result)
             return result;
-        return UnlessEmpty(Details::AppendInput(members, static_cast<MediaInput&>(channel)), "MediaInput is empty");
+        return Details::AppendInput(members, static_cast<MediaInput&>(channel));
     }
     if (*type == "MediaOutput")
     {
@@ -60,7 +46,7 @@ Result JsonToMediaIOConverter::To(const JsonObject& json, MediaIO& channel) cons
             return "Inconsistent types - cannot merge JSON-MediaOutput source with MediaInput destination.";
         if (auto result = Details::AppendCommon(members, channel); !result)
             return result;
-        return UnlessEmpty(Details::AppendOutput(members, static_cast<MediaOutput&>(channel)), "MediaOutput is empty");
+        return Details::AppendOutput(members, static_cast<MediaOutput&>(channel));
     }
     return std::string("Invalid JSON type ('").append(*type).append("') : 'MediaInput' or 'MediaOutput' expected");
 }
