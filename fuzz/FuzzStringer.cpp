@@ -513,6 +513,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
         {
             auto& self = first;
             first = self;
+            first.writer = std::move(self.writer);
             break;
         }
         default:
