@@ -55,7 +55,8 @@ inline std::optional<Json::Value> Parse(std::string_view text, Parsing parsing)
     try
     {
         std::string errors;
-        if (reader->parse(text.data(), text.data() + text.size(), &document, &errors))
+        const std::string terminated(text); // jsoncpp looks behind a carriage return at the end
+        if (reader->parse(terminated.data(), terminated.data() + terminated.size(), &document, &errors))
             return document;
     }
     catch (const std::exception&)

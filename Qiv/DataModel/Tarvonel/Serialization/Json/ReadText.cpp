@@ -143,6 +143,11 @@ TextResult ParseText(std::string_view text, JsonObject& json)
     if (auto result = CheckText(text); !result)
         return result;
 
+    // To tell the place of an error, jsoncpp looks behind a carriage return, also where the text ends with it.
+    const auto terminated = text.back() == '\r' ? std::string(text) : std::string();
+    if (!terminated.empty())
+        text = terminated;
+
     ::Json::CharReaderBuilder builder;
     ::Json::CharReaderBuilder::strictMode(&builder.settings_);
     const std::unique_ptr<::Json::CharReader> reader(builder.newCharReader());
