@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Cases.h"
+
 #include <Qiv/BusinessEntityModel/Edits/Serialization/Json/JsonToSequenceConverter.h>
 #include <Qiv/BusinessEntityModel/Edits/Serialization/Json/SequenceToJsonConverter.h>
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToMediaAssetConverter.h>
@@ -29,6 +31,7 @@
 
 #include <json/reader.h>
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -94,50 +97,21 @@ Entity FromText(const std::string& text)
     return entity;
 }
 
-inline std::string ReplacedAll(std::string text, const std::string& from, const std::string& to)
+/// The names of documents.txt, which stand for documents with every member and for their parts.
+inline const Names documents = []
 {
-    for (auto position = text.find(from); position != std::string::npos;
-         position = text.find(from, position + to.size()))
-        text.replace(position, from.size(), to);
-    return text;
+    Names names;
+    Lines("Converters/cases/documents.txt", names);
+    return names;
+}();
+inline std::string Document(const std::string& name)
+{
+    return std::find_if(documents.begin(), documents.end(), [&](const auto& each) { return each.first == name; })
+        ->second;
 }
-
-// Documents with every member, as their writers write them.
-
-inline const std::string fullAsset =
-    R"({"_type":"MediaAsset","id":"a1","name":"Goal","inPoint":{"_type":"TimePoint","value":"-1"},)"
-    R"("outPoint":{"_type":"TimePoint","value":"9223372036854775807"}})";
-inline const std::string fullAssetReference = R"({"_type":"MediaAssetRef","id":"a1","mediaAsset":)" + fullAsset + "}";
-inline const std::string fullMetadata =
-    R"({"a.b":"1","a.b.c":"2","qiv.peloperator.serverId":1230,"qiv.peloperator.index":7,"z.":"\u0001"})";
-inline const std::string fullCommonMembers = R"("id":"c1","name":"Cam \"A\" )"
-                                             "\xC3\xA9"
-                                             R"(","mediaAssetOnAir":)" +
-                                             fullAssetReference + R"(,"metadata":)" + fullMetadata;
-inline const std::string fullInput =
-    R"({"_type":"MediaInput",)" + fullCommonMembers +
-    R"(,"recordingStatus":"Recording","lastTimePoint":{"_type":"TimePoint","value":"1458569109680000000"},)"
-    R"("lastTodTimecode":"2016-03-21T14:05:09:17@25","lastUserTimecode":"2016-03-21T00:10:00;00@30",)"
-    R"("primaryTimecodeType":"User","remainingCapacity":{"_type":"Duration","value":"3600000000000"},)"
-    R"("totalCapacity":{"_type":"Duration","value":"7200000000000"}})";
-inline const std::string fullSequenceOutput =
-    R"({"_type":"SequenceOutput","sequenceOnAir":{"_type":"SequenceRef","id":"s1","sequence":)"
-    R"({"_type":"Sequence","id":"s1","name":"Highlights"}},)"
-    R"("assetBlockOnAir":{"_type":"AssetBlockOnAir","id":"b1","mediaAsset":)" +
-    fullAssetReference +
-    R"(},"nextAssetBlockOnAir":{"_type":"AssetBlockOnAir","id":"","mediaAsset":{"_type":"MediaAssetRef","id":""}},)"
-    R"("editMode":true})";
-inline const std::string fullOutput =
-    R"({"_type":"MediaOutput",)" + fullCommonMembers +
-    R"(,"playingStatus":"Playing","speedOnAir":{"_type":"Speed","numerator":-3,"denominator":2},)"
-    R"("globalLoopMode":"Bounce","remainingTime":{"_type":"Duration","value":"-40000000"},)"
-    R"("currentTimePointOnAir":{"_type":"TimePoint","value":"0"},"todTimecodeOnAir":"2016-03-21T14:05:09:17@25",)"
-    R"("userTimecodeOnAir":"1900-01-01T00:00:00:01@50","primaryTimecodeType":"Tod","sequence":)" +
-    fullSequenceOutput +
-    R"(,"inBoundary":{"_type":"BoundaryAbsolute","timepoint":{"_type":"TimePoint","value":"5"}},)"
-    R"("outBoundary":{"_type":"BoundaryRelative","origin":"RelativeToOppositeLoadBoundary","offset":-25}})";
-inline const std::string fullNode =
-    R"({"_type":"Node","id":"n1","serialNumber":-2,"hostName":"srv","ipAddress":"10.0.0.1",)"
-    R"("gbeIpAddresses":["10.0.1.2","10.0.1.1"],"chassis":"6U","hardwareRevision":"B2","tarvonelVersion":"1.2.3"})";
+inline const auto fullAsset = Document("$ASSET"), fullAssetReference = Document("$REFERENCE"),
+                  fullMetadata = Document("$METADATA"), fullInput = Document("$INPUT"),
+                  fullOutput = Document("$OUTPUT"), fullSequenceOutput = Document("$SEQUENCE"),
+                  fullNode = Document("$NODE");
 
 } // namespace Qiv::Tests
