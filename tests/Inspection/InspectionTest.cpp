@@ -88,18 +88,9 @@ JsonObject Without(JsonObject document, const Keys& keys)
 
 void Mutate(JsonObject& document, ModelGenerator& generator)
 {
-    static const auto values =
-        Parse(R"([null, true, false, 0, 1, -5, 15, 20, 1.5, 3.0, 5000000000, 1e20, "", "x", "Tod",
-        "12abc", "+7", " 8", "99999999999999999999", "-9223372036854775809", "Absolute", "Loop", "Node", "TimePoint",
-        "10:00:00:00@25", "10:00:00;00@25", "-1-0-1-0-1T10:00:00:00@25", [], ["a", 1, null], {}, {"x": 1}, {"id": "r"},
-        {"id": 5}, {"id": {}}, {"_type": 5, "id": "r"}, {"_type": null, "id": "r"}, {"_type": "Duration", "value": "7"},
-        {"_type": "BoundaryRelative", "origin": "Absolute"}, {"_type": "TimePoint", "value": "seven"}, "MediaOutput",
-        {"_type": "TimePoint", "value": 7}, {"_type": "Speed"}, {"a.b": 1, "a": "1", "qiv.peloperatorX.y": "z"}])");
-    static const auto names = Parse(R"(["other", "_type", "id", "metadata", "locationOnAir", "sequence", "inBoundary",
-        "outBoundary", "mediaAsset", "value", "origin", "offset", "speedOnAir", "remainingTime", "a.b", "~/",
-        "qiv.peloperator.index", "timepoint", "lastTimePoint", "currentTimePointOnAir"])");
-    static const auto fatal = Parse(R"({"inBoundary": {"_type": "BoundaryRelative", "origin": "Absolute"},
-        "currentTimePointOnAir": {"_type": "TimePoint", "value": "e"}, "outBoundary": {"_type": "BoundaryRelative", "origin": "Absolute"}})");
+    Names none;
+    static const auto lines = Lines("Inspection/cases/mutations.ndjson", none);
+    static const auto values = Parse(lines.at(0)), names = Parse(lines.at(1)), fatal = Parse(lines.at(2));
     const auto places = Places(document);
     if (places.empty())
         return;
@@ -269,122 +260,51 @@ TEST(InspectDocument, TellsWhatReadersDoWithAnyDocument)
         << clean << ' ' << successes << ' ' << failures << ' ' << skipped << ' ' << used << ' ' << fatal;
 }
 
-// Each document with its findings: kind, pointer, and the reader's text after an arrow.
-TEST(InspectDocument, NamesKindPlaceAndReadersText)
+TEST(InspectDocument, TellsWhatIsKnownOfTheCases)
 {
-    const std::pair<const char*, const char*> cases[] = {
-        {"null", "failure : -> MediaIO is empty"},
-        {"{}", "failure : -> MediaIO is empty"},
-        {R"({"id": "n"})", "failure : -> Invalid JSON type (undefined)"},
-        {R"({"_type": 5})", "failure /_type: -> Invalid JSON type (undefined)"},
-        {R"({"_type": "Nod"})",
-         "failure /_type: -> Invalid JSON type ('Nod') : 'MediaInput' or 'MediaOutput' expected"},
-        {R"({"_type": "Node"})", "failure : -> Node has no identifier (required)"},
-        {R"({"_type": "Node", "id": 1, "a/b~c": 2})",
-         "failure /id: -> Node has no identifier (required); unknown-member /a~1b~0c:"},
-        {R"({"_type": "Node", "id": "", "serialNumber": 2147483648, "gbeIpAddresses": ["", null, 4]})",
-         "wrong-type /serialNumber:; wrong-type /gbeIpAddresses/1:; wrong-type /gbeIpAddresses/2:"},
-        {R"({"_type": "Speed", "numerator": 3.0, "denominator": -1})", ""},
-        {R"({"_type": "BoundaryAbsolute", "timepoint": 5})", "failure /timepoint: -> TimePoint is empty"},
-        {R"({"_type": "BoundaryAbsolute", "timepoint": {"_type": "TimePoint", "value": " 5"}})",
-         "failure /timepoint/value: -> Invalid TimePoint value"},
-        {R"({"_type": "BoundaryAbsolute", "timepoint": {"_type": "Time", "value": "5"}})",
-         "failure /timepoint/_type: -> Invalid type Time : TimePoint expected"},
-        {R"({"_type": "BoundaryRelative", "origin": "Absolute"})",
-         "ends-process /origin: -> Bad origin for BoundaryRelative"},
-        {R"({"_type": "BoundaryRelative", "origin": "absolute", "offset": "5"})",
-         "invalid-value /origin:; wrong-type /offset:"},
-        {R"({"_type": "MediaInput", "metadata": {"a": "1", "a.b": 1, "qiv.peloperatorX.y": "z", "qiv.peloperatorX": "y",
-             "qiv.peloperator.serverId": 15, "qiv.peloperator.index": "1"}})",
-         "invalid-value /metadata/qiv.peloperator.serverId:; wrong-type /metadata/qiv.peloperator.index:; "
-         "unknown-member /metadata/a:; wrong-type /metadata/a.b:; unknown-member /metadata/qiv.peloperatorX.y:"},
-        {R"({"_type": "MediaInput", "playingStatus": "Idle", "recordingStatus": "idle", "name": null,
-             "lastTodTimecode": "10:00:00;00@25", "totalCapacity": {"value": "5"}, "remainingCapacity":
-             {"_type": "Duration", "value": "18446744073709551616"}})",
-         "wrong-type /name:; invalid-value /recordingStatus:; invalid-value /lastTodTimecode:; "
-         "invalid-value /remainingCapacity/value:; missing-member /totalCapacity:; unknown-member /playingStatus:"},
-        {R"({"_type": "MediaOutput", "locationOnAir": [[[1]]], "mediaAssetOnAir": {"id": 5}})",
-         "invalid-value /mediaAssetOnAir/id:; ignored /locationOnAir:"},
-        {R"({"_type": "MediaOutput", "mediaAssetOnAir": {"id": "x", "mediaAsset": {"id": "y"}, "z": 1}})",
-         "ignored /mediaAssetOnAir/id:; unknown-member /mediaAssetOnAir/z:"},
-        {R"({"_type": "MediaOutput", "mediaAssetOnAir": {"_type": "SequenceRef", "id": "x"}})",
-         "failure /mediaAssetOnAir/_type: -> Bad _type"},
-        // The order of reading, which is not the order of writing; what comes after a failure is told all the same.
-        {R"({"_type": "MediaOutput", "currentTimePointOnAir": {"_type": "TimePoint", "value": ""},
-             "sequence": {"assetBlockOnAir": {"_type": "AssetBlock"}}, "speedOnAir": {}})",
-         "failure /speedOnAir: -> Speed is empty; failure /sequence/assetBlockOnAir/_type: -> Invalid type AssetBlock "
-         ": "
-         "AssetBlockOnAir expected; ends-process /currentTimePointOnAir/value: -> stoll"},
-        {R"({"currentTimePointOnAir": {"_type": "TimePoint", "value": "x"}})", // the reader of players takes it
-         "failure : -> Invalid JSON type (undefined); ends-process /currentTimePointOnAir/value: -> stoll"},
-        {R"({"_type": "MediaOutput", "currentTimePointOnAir": {"_type": "Time", "value": "x"}})",
-         "invalid-value /currentTimePointOnAir/_type:"},
-    };
-    for (const auto& [document, expected] : cases)
+    std::vector<std::string> told; // of the last document, and not yet compared
+    Names none;
+    for (const auto& line : Lines("Inspection/cases/findings.txt", none))
     {
-        std::string found;
-        for (const auto& finding : InspectDocument(Parse(document)))
-            found.append(found.empty() ? "" : "; ")
-                .append(ToString(finding.kind))
-                .append(" " + finding.pointer + ":")
-                .append(finding.readerMessage.empty() ? "" : " -> " + finding.readerMessage);
-        EXPECT_EQ(found, expected) << document;
+        if (line[0] == ' ')
+        {
+            ASSERT_FALSE(told.empty()) << line;
+            EXPECT_EQ(told.front(), line);
+            told.erase(told.begin());
+            continue;
+        }
+        EXPECT_EQ(told, std::vector<std::string>()) << "before " << line;
+        for (const auto& finding : InspectDocument(Parse(line)))
+            told.push_back("    " + std::string(ToString(finding.kind)) + " " + finding.pointer + ": " +
+                           finding.sentence + (finding.readerMessage.empty() ? "" : " -> " + finding.readerMessage));
     }
-    std::string sentences;
-    for (const auto& finding : InspectDocument(Parse(R"({"_type": "MediaInput", "recordingStatus": "Stop\n", "name": 5,
-             "metadata": {"a": "1", "a.b": 1, "qiv.peloperatorX.y": "z"}, "mediaAssetOnAir": {"id": 5}})")))
-        sentences += finding.sentence + '\n';
-    EXPECT_EQ(sentences, R"(is an integer of 32 bits, where a string belongs; it is skipped
-is no string; its text is read, "5"
-"a" has no dot and so belongs to no profile; it is skipped
-is no string, as all metadata but the operator's are; it is skipped
-"qiv.peloperatorX.y" is in the namespace of the operator profile; it is skipped
-"Stop\n" is none of Idle, Pause, Recording; it is read as Idle
-)");
+    EXPECT_EQ(told, std::vector<std::string>());
 }
 
 TEST(ReadText, TellsWhatIsWrongAndWhere)
 {
-    const std::string deep(101, '[');
-    const struct
+    Names none;
+    for (const auto& line : Lines("Inspection/cases/texts.ndjson", none))
     {
-        std::string text;
-        std::size_t line, column;
-        const char* message;
-        const char* pointer = "";
-    } cases[] = {
-        {"", 1, 1, "the text is empty"},
-        {"\r\n\r ", 3, 2, "the text is empty"},
-        {"\xEF\xBB\xBF{}", 1, 1, "a byte order mark may not stand before JSON"},
-        {"{\n  \"id\": \"a\tb\"}", 2, 11, "a control character may not stand in a string"},
-        {"{\"\\\"[\":\n" + deep, 2, 100, "objects and arrays are nested too deeply"},
-        {"{\"a\": 1,\n \"a\": 2}", 2, 2, "Duplicate key: 'a'"},
-        {"{} {}", 1, 4, "Extra non-whitespace after JSON value."},
-        {"{ // \n}", 1, 3, "a comment may not stand in JSON"},
-        {"\n5", 2, 1, "a document is an object or an array"},
-        {"{\"a\": 1e999}", 1, 7, "'1e999' is no JSON number, or too large for one of 64 bits"},
-        {"{\"_type\": \"MediaOutput\",\n\"inBoundary\": {\"_type\": \"BoundaryRelative\", \"origin\": \"Absolute\"}}",
-         2, 55, "\"Absolute\" is the origin of a relative boundary, which ends the process", "/inBoundary/origin"},
-        {"{\"_type\": \"MediaOutput\",\n \"speedOnAir\": {}}", 2, 16, "Speed is empty", "/speedOnAir"},
-        {R"({"_type": "MediaInput"})", 1, 11,
-         "Inconsistent types - cannot merge JSON-MediaInput source with MediaOutput destination.", "/_type"},
-    };
-    for (const auto& [text, line, column, message, pointer] : cases)
-    {
+        const auto expected = Parse(line);
         auto channel = FromText<JsonToMediaIOConverter, MediaOutput>(fullOutput);
         for (auto* const read : {static_cast<TextResult (*)(std::string_view, MediaIO&)>(MergeText),
                                  static_cast<TextResult (*)(std::string_view, MediaIO&)>(ReadSnapshotText)})
         {
-            const auto result = read(text, channel);
+            const auto result = read(expected["text"].asString(), channel);
             EXPECT_FALSE(result);
-            EXPECT_EQ(result.ErrorMessage(), message) << text;
-            EXPECT_EQ(std::pair(result.Position().line, result.Position().column), std::pair(line, column)) << text;
-            EXPECT_EQ(result.Pointer(), pointer) << text;
+            JsonObject told;
+            told["text"] = expected["text"];
+            told["line"] = static_cast<int>(result.Position().line);
+            told["column"] = static_cast<int>(result.Position().column);
+            told["pointer"] = result.Pointer();
+            told["message"] = result.ErrorMessage();
+            EXPECT_EQ(told, expected);
         }
         EXPECT_EQ(Written<MediaIOToJsonConverter>(channel), fullOutput);
     }
     JsonObject json;
-    EXPECT_TRUE(ParseText(deep.substr(1) + std::string(100, ']'), json));
+    EXPECT_TRUE(ParseText(std::string(100, '[') + std::string(100, ']'), json));
 }
 
 TEST(ReadText, MergesAndReplaces)
