@@ -1,10 +1,10 @@
 """The command-line tool as its users see it. TARVONEL_JSON is the program."""
 
-import json
 import os
 import pathlib
 import pty
 import re
+import shlex
 import subprocess
 import tempfile
 import unittest
@@ -14,12 +14,6 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 DOCUMENTS = ROOT / "examples/documents"
 
 NODE = '{"_type":"Node","id":"n1"}'
-FATAL = '{"_type":"MediaOutput",\n "currentTimePointOnAir":{"_type":"TimePoint","value":"soon"}}'
-
-FINDINGS = """\
-<stdin>:1:41: /recordingStatus: "Recordin" is none of Idle, Pause, Recording; it is read as Idle
-<stdin>:2:11: /colour: "colour" is no member of MediaInput; it is skipped
-"""
 
 
 def run(*arguments, text="", **options):
@@ -51,34 +45,18 @@ class Tool(unittest.TestCase):
                 self.check(["check", *lines, source], "", 0, "", "")
         canonical = (DOCUMENTS / "canonical" / merged).read_text()
         self.check(["merge", "recorder.json", "recorder-update.json"], "", 0, canonical, "")
-        pretty = '{\n  "_type": "MediaInput",\n  "recordingStatus": "Idle"\n}\n'
-        self.check(["convert", "--pretty", "recorder-minimal.json"], "", 0, pretty, "")
 
-    def test_ReportsWhatCannotBeConvertedAndGoesOn(self):
-        expected = ": MediaInput, .*, BoundaryAbsolute or BoundaryRelative expected"
-        for text, error in [
-            ('{"_type":"Node",\n "id":}', r"<stdin>:2:7: \S.*"),
-            ("", r"<stdin>:1:1: \S.*"),
-            (NODE + "x", r"<stdin>:1:\d+: \S.*"),
-            ('{"id":"n1"}', '<stdin>:1:1: no "_type"' + expected),
-            ('{"_type":null}', '<stdin>:1:1: no "_type"' + expected),
-            ('\n {"_type":"R\\u0007\\""}', r'<stdin>:2:2: unknown "_type" "R\\u0007\\""' + expected),
-            ('[{"_type":"Node"}]', '<stdin>:1:1: no "_type"' + expected),
-            ('{"_type":"Node"}', "<stdin>:1:1: Node has no identifier \\(required\\)"),
-            ('{"_type":"MediaOutput",\n"speedOnAir":{}}', "<stdin>:2:14: /speedOnAir: Speed is empty"),
-            (FATAL, "<stdin>:2:55: /currentTimePointOnAir/value: refused: .*soon.*ends the process"),
-            ('{"_type":"BoundaryRelative","origin":"Absolute"}', "<stdin>:1:38: /origin: refused: .*"),
-        ]:
-            self.check(["convert"], text, 1, "", error)
-        self.check(["convert", "nothing.json", "-", "."], NODE, 1, NODE + "\n",
-                   r"nothing\.json: No such file or directory\n\.: Is a directory")
+    def test_AnswersAsTheTranscriptsSay(self):
+        for transcript in (ROOT / "tests/Tool/transcripts.txt").read_text().split("\n\n")[1:]:
+            command, text, out, error, status = (
+                [line[2:] for line in transcript.splitlines() if line[0] == sign] for sign in "$<>!=")
+            self.check(shlex.split(command[0])[1:], "\n".join(text), int(status[0]), "".join(f"{line}\n" for line in out),
+                       "\n".join(error))
 
     def test_HandlesLineAfterLine(self):
-        lines = [NODE, "", "{", NODE + "\r", FATAL.replace("\n", ""), NODE]
-        errors = r"<stdin>:3:2: [^\n]*\n<stdin>:5:78: /[^\n]*"
-        self.check(["convert", "--ndjson", "-"], "\n".join(lines), 1, 3 * (NODE + "\n"), errors)
-        text = "[" + " " * (64 << 20) + "\n" + NODE
-        self.check(["convert", "--ndjson"], text, 1, NODE + "\n", "<stdin>:1:1: the line is too long, .*64 MiB.*")
+        text = NODE + "\r\n[" + " " * (64 << 20) + "\n" + NODE
+        error = "<stdin>:2:1: the line is too long, .*64 MiB.*"
+        self.check(["convert", "--ndjson"], text, 1, f"{NODE}\n{NODE}\n", error)
         # What was read is written before more is waited for.
         with subprocess.Popen([TOOL, "convert", "--ndjson"], stdin=subprocess.PIPE, stdout=subprocess.PIPE) as process:
             process.stdin.write(NODE.encode() + b"\n")
@@ -99,57 +77,7 @@ class Tool(unittest.TestCase):
             os.write(terminal, b"\x04")
             self.assertIn(b"reading from the terminal, end with Ctrl-D\n", process.communicate()[1])
 
-    def test_ChecksDocuments(self):
-        text = '{"_type":"MediaInput","recordingStatus":"Recordin",\n "colour":1}'
-        self.check(["check"], text, 1, FINDINGS, "")
-        text = text.replace("\n", "") + "\n{"
-        status, out, _ = run("check", "--ndjson", "--output=json", "-", "speed.json", text=text)
-        findings = json.loads(out)
-        self.assertEqual(status, 1)
-        self.assertEqual(list(findings[0]), ["file", "line", "column", "pointer", "kind", "sentence"])
-        found = [tuple(entry[key] for key in ("file", "line", "pointer", "kind")) for entry in findings]
-        self.assertEqual(found[:4], [("<stdin>", 1, "/recordingStatus", "invalid-value"),
-                                     ("<stdin>", 1, "/colour", "unknown-member"),
-                                     ("<stdin>", 2, "", "invalid-json"), ("speed.json", 1, "", "invalid-json")])
-
-        found = json.loads(run("check", "--output=json", text='{"_type":"MediaOutput","speedOnAir":{}}')[1])
-        self.assertEqual(found[0]["readerMessage"], "Speed is empty")
-        self.check(["check", "--output", "json", "node.json"], "", 0, "[]\n", "")
-        self.check(["check", "node.json", "nothing.json"], "", 2, "", r"nothing\.json: No such file or directory")
-        self.assertRegex(run("check", text=FATAL)[1], r"\A<stdin>:2:55: /currentTimePointOnAir/value: FATAL: .*\n\Z")
-        self.assertRegex(run("check", text="{}")[1], r'\A<stdin>:1:1: no "_type": .*\n\Z')
-
-    def test_MergesWholeUpdatesOnly(self):
-        base = '{"_type":"MediaInput","recordingStatus":"Pause"}'
-        self.check(["merge", "-", "recorder-minimal.json"], base, 0, base + "\n", "")
-        for text, error in [
-            ("{", r"<stdin>:1:\d: .*"),
-            (NODE, "<stdin>:1:1: only channels can be merged: MediaInput or MediaOutput expected"),
-            ('{"_type":"x"}', '<stdin>:1:1: unknown "_type" "x".*'),
-            (FATAL, "<stdin>:2:55: /currentTimePointOnAir/value: .*"),
-            ('{"_type":"MediaOutput"}', r"recorder-minimal\.json:\d:\d+: .*cannot merge JSON-MediaInput .*"),
-        ]:
-            self.check(["merge", "-", "recorder-minimal.json"], text, 1, "", error)
-        self.check(["merge", "-", "recorder-minimal.json", "nothing"], base, 1, "", "nothing: No such file or directory")
-
-    def test_ExplainsTimeCodes(self):
-        known = "2016-03-21T14:05:09;17@30\n  date          2016-03-21\n  time          14:05:09\n  frame         17\n"
-        known += "  rate          30 frames per second\n  counting      drop-frame\n  total sample  109916710549\n"
-        known += "  canonical     2016-03-21T14:05:09;17@30\n"
-        bad = [("00:01:00;00@30", "In dropped TimeCode, this value doesn't exist 1:0;0"),
-               ("10:00", "QivTimeCodeParser the string '10:00' has not the expected format."),
-               ("00:00:00:00@9999999999", "stoi")]
-        error = "\n".join(f"{text}: {re.escape(message)}" for text, message in bad)
-        self.check(["timecode", bad[0][0], known[:25], *[text for text, _ in bad[1:]]], "", 1, known, error)
-        undated = run("timecode", "10:00:00:00@25")[1]
-        for line in ("date          none", "total sample  55225620000", "canonical     -1-0-1-0-1T10:00:00:00@25"):
-            self.assertIn(f"\n  {line}\n", undated)
-
     def test_TellsWrongUsageAndFailedWriting(self):
-        for arguments in ([], ["copy"], ["convert", "--fast"], ["convert", "-", "-"], ["merge", "-"],
-                          ["merge", "-", "-"], ["timecode"], ["check", "--output", "xml"]):
-            status, out, error = run(*arguments)
-            self.assertEqual((status, out, bool(error)), (2, "", True), arguments)
         self.assertEqual(run("--version")[0], 0)
         message = "tarvonel-json: standard output: "
         with open("/dev/full", "w") as full:
