@@ -17,7 +17,8 @@ bool KeepsAll()
 {
     return Keeps<JsonToMediaIOConverter, MediaIOToJsonConverter, MediaInput>(fullInput) &&
            Keeps<JsonToMediaIOConverter, MediaIOToJsonConverter, MediaOutput>(fullOutput) &&
-           Keeps<JsonToNodeConverter, NodeToJsonConverter, Node>(fullNode);
+           Keeps<JsonToNodeConverter, NodeToJsonConverter, Node>(fullNode) && FullyQualifiedName::Empty().IsEmpty() &&
+           Identifier::Empty().IsEmpty();
 }
 
 /// Lives longer than anything that a conversion makes on first use.

@@ -55,7 +55,46 @@ TEST(Converters, KeepEveryEntityOfTheModel)
     }
 }
 
-// Each thread has its targets; the converters, and what they make on first use, are shared.
+/// Each member of a document counts: what is read without one of them differs from the whole and from what is read
+/// without another one, or from one of `others`. Copies do not differ.
+template <typename Reader, typename Entity>
+void ExpectEachMemberCounts(const std::string& full, std::vector<std::string> others = {})
+{
+    const auto json = Parse(full);
+    others.push_back(full);
+    for (const auto& name : json.getMemberNames())
+    {
+        auto without = json;
+        if (json[name].isString())
+            without[name] = "";
+        else
+            without.removeMember(name);
+        if (name != "_type")
+            others.push_back(without.toStyledString());
+    }
+    std::vector<Entity> entities(others.size());
+    for (std::size_t i = 0; i < others.size(); ++i)
+        Read<Reader>(others[i], entities[i]);
+    for (const auto& left : entities)
+    {
+        for (const auto& right : entities)
+            EXPECT_EQ(left == right, &left == &right) << others[&left - &entities[0]] << others[&right - &entities[0]];
+        Entity copy(left);
+        EXPECT_TRUE(copy == left && Entity(std::move(copy)) == left) << others[&left - &entities[0]];
+    }
+}
+
+TEST(Entities, AreEqualMemberByMember)
+{
+    ExpectEachMemberCounts<JsonToMediaInputConverter, MediaInput>(fullInput);
+    ExpectEachMemberCounts<JsonToMediaOutputConverter, MediaOutput>(fullOutput);
+    ExpectEachMemberCounts<JsonToNodeConverter, Node>(fullNode);
+    // The next block of the full document is an empty one.
+    auto sequence = ReplacedAll(fullSequenceOutput, Document("$NOBLOCK"), R"({"id":"b2"})");
+    ExpectEachMemberCounts<JsonToSequenceOutputConverter, SequenceOutput>(
+        sequence, {R"({"assetBlockOnAir":{"id":"b1"}})", R"({"assetBlockOnAir":{"mediaAsset":{"id":"a1"}}})"});
+}
+
 // Each thread has its targets; the converters, and what they make on first use, are shared.
 TEST(Converters, ServeEightThreads)
 {

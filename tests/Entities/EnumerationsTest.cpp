@@ -1,5 +1,3 @@
-#include <Qiv/BusinessEntityModel/BaseTypes/FullyQualifiedName.h>
-#include <Qiv/BusinessEntityModel/BaseTypes/Identifier.h>
 #include <Qiv/DataModel/MediaAssets/TimecodePrimary.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryOrigin.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/PlayingLoopMode.h>
@@ -8,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <vector>
 
 namespace Qiv::DataModel::Tarvonel::MediaIOs
@@ -55,27 +52,6 @@ TEST(Enumerations, HaveOneTextForEachEnumerator)
     Check({"Absolute", "RelativeToCorrespondingMediaBoundary", "RelativeToOppositeMediaBoundary",
            "RelativeToOppositeLoadBoundary"},
           ToBoundaryOrigin, BoundaryOrigin::RelativeToCorrespondingMediaBoundary);
-}
-
-TEST(EnumerationsDeathTest, KeepTheirTextsUntilTheEndOfTheProcess)
-{
-    const auto exitWithLateConversion = []
-    {
-        // Registered before the first conversion, so that it runs after the destruction of all that conversions make.
-        std::atexit(
-            []
-            {
-                const bool kept =
-                    ToString(BoundaryOrigin::RelativeToOppositeLoadBoundary) == "RelativeToOppositeLoadBoundary" &&
-                    BusinessEntityModel::BaseTypes::FullyQualifiedName::Empty().IsEmpty() &&
-                    BusinessEntityModel::BaseTypes::Identifier::Empty().IsEmpty();
-                std::_Exit(kept ? 42 : 1);
-            });
-        static_cast<void>(ToString(BoundaryOrigin::Absolute));
-        std::exit(0);
-    };
-    GTEST_FLAG_SET(death_test_style, "threadsafe"); // a new process, in which nothing has been converted yet
-    EXPECT_EXIT(exitWithLateConversion(), ::testing::ExitedWithCode(42), "");
 }
 
 } // namespace
