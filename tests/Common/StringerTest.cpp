@@ -36,43 +36,29 @@ std::string Quoted(std::string_view text)
 /// The JSON string of a text, told slowly from the table of well-formed UTF-8 sequences.
 std::string Oracle(std::string_view text)
 {
-    // Rows of ranges: lowest and highest first, second... byte.
-    static const std::vector<std::string> sequences = {"\xC2\xDF\x80\xBF",
-                                                       "\xE0\xE0\xA0\xBF\x80\xBF",
-                                                       "\xE1\xEC\x80\xBF\x80\xBF",
-                                                       "\xED\xED\x80\x9F\x80\xBF",
-                                                       "\xEE\xEF\x80\xBF\x80\xBF",
-                                                       "\xF0\xF0\x90\xBF\x80\xBF\x80\xBF",
-                                                       "\xF1\xF3\x80\xBF\x80\xBF\x80\xBF",
-                                                       "\xF4\xF4\x80\x8F\x80\xBF\x80\xBF"};
-    const auto isWithin = [](char low, char byte, char high)
-    {
-        return std::string_view(&low, 1) <= std::string_view(&byte, 1) &&
-               std::string_view(&byte, 1) <= std::string_view(&high, 1);
-    };
+    // First bytes up to each last one, how many bytes they begin, and the lowest and highest second byte.
+    static constexpr unsigned rows[][4] = {{0x7F, 1, 0, 0},       {0xC1, 0, 0, 0},       {0xDF, 2, 0x80, 0xBF},
+                                           {0xE0, 3, 0xA0, 0xBF}, {0xEC, 3, 0x80, 0xBF}, {0xED, 3, 0x80, 0x9F},
+                                           {0xEF, 3, 0x80, 0xBF}, {0xF0, 4, 0x90, 0xBF}, {0xF3, 4, 0x80, 0xBF},
+                                           {0xF4, 4, 0x80, 0x8F}, {0xFF, 0, 0, 0}};
+    const auto byte = [&](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
     std::string json = "\"";
-    for (std::size_t i = 0; i < text.size();)
+    for (std::size_t i = 0, next = 0; i < text.size(); i = next)
     {
-        std::size_t longest = 1;
-        bool isWellFormed = isWithin('\0', text[i], '\x7f');
-        for (const auto& row : sequences)
-        {
-            std::size_t matched = 0;
-            while (2 * matched < row.size() && i + matched < text.size() &&
-                   isWithin(row[2 * matched], text[i + matched], row[2 * matched + 1]))
-                ++matched;
-            longest = std::max(longest, matched);
-            isWellFormed = isWellFormed || 2 * matched == row.size();
-        }
+        const auto& row =
+            *std::find_if(std::begin(rows), std::end(rows), [&](auto& each) { return byte(i) <= each[0]; });
+        next = i + 1;
+        if (row[1] > 1 && byte(next) >= row[2] && byte(next) <= row[3])
+            for (++next; next < i + row[1] && byte(next) >= 0x80 && byte(next) <= 0xBF;)
+                ++next;
         char escape[8];
-        std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(text[i]));
+        std::snprintf(escape, sizeof escape, "\\u%04x", byte(i));
         if (const auto letter = std::string_view("\"\\\b\f\n\r\t").find(text[i]); letter != std::string_view::npos)
             json += std::string("\\") + "\"\\bfnrt"[letter];
-        else if (isWithin('\0', text[i], '\x1f'))
+        else if (byte(i) < 0x20)
             json += escape;
         else
-            json += isWellFormed ? std::string(text.substr(i, longest)) : "\xEF\xBF\xBD";
-        i += longest;
+            json += next - i == row[1] ? std::string(text.substr(i, row[1])) : "\xEF\xBF\xBD";
     }
     return json + "\"";
 }
