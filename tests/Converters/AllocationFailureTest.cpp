@@ -73,28 +73,31 @@ void FailEachAllocation(const Attempt& attempt)
 }
 
 /// Reads and writes with each allocation failing: the target stays valid, and takes the document afterwards.
-template <typename Entity, typename Reader, typename Writer>
-void Fail(const std::string& before, const std::string& text)
+template <typename Entity, typename Reader = ReaderOf<Entity>, typename Writer = WriterOf<Entity>>
+void Fail(const std::string& before, const std::string& text, const Reader& reader = Reader(),
+          const Writer& writer = Writer())
 {
     const auto json = Parse(text);
-    auto whole = FromText<Reader, Entity>(before);
-    static_cast<void>(Reader().To(json, whole));
-    const auto expected = Written<Writer>(whole);
+    Entity whole;
+    Read(before, whole, reader);
+    static_cast<void>(reader.To(json, whole));
+    const auto expected = Written(whole, writer);
     FailEachAllocation(
         [&](long n)
         {
-            auto entity = FromText<Reader, Entity>(before);
-            const bool failed = FailsAt(n, [&] { static_cast<void>(Reader().To(json, entity)); });
-            static_cast<void>(Parse(Written<Writer>(entity)));
-            static_cast<void>(Reader().To(json, entity));
-            EXPECT_EQ(Written<Writer>(entity), expected) << n;
+            Entity entity;
+            Read(before, entity, reader);
+            const bool failed = FailsAt(n, [&] { static_cast<void>(reader.To(json, entity)); });
+            static_cast<void>(Parse(Written(entity, writer)));
+            static_cast<void>(reader.To(json, entity));
+            EXPECT_EQ(Written(entity, writer), expected) << n;
             return failed;
         });
     FailEachAllocation(
         [&](long n)
         {
             Stringer stringer;
-            return FailsAt(n, [&] { static_cast<void>(Writer().To(whole, stringer)); });
+            return FailsAt(n, [&] { static_cast<void>(writer.To(whole, stringer)); });
         });
 }
 
@@ -116,14 +119,13 @@ TEST(AllocationFailure, LeaksNothingAndLeavesTargetsValid)
 {
     // Long enough for any buffer that needs no allocation.
     const auto longText = "\"" + std::string(5000, 'x') + "\"";
-    Fail<Node, JsonToNodeConverter, NodeToJsonConverter>(
-        R"({"id":"n"})", R"({"id":"n2","gbeIpAddresses":["a","b"],"hostName":)" + longText + "}");
-    Fail<SequenceOutput, JsonToSequenceOutputConverter, SequenceOutputToJsonConverter>(
-        R"({"editMode":false})", R"({"sequenceOnAir":{"sequence":{"name":)" + longText + R"(,"id":"s"}},)" +
-                                     fullSequenceOutput.substr(fullSequenceOutput.find("\"assetBlock")));
-    Fail<MetadataProfileDictionary, JsonToMetadataProfileDictionaryConverter, MetadataProfileDictionaryToJsonConverter>(
-        R"({"a.b":"0","y.y":"y"})", R"({"x.long":)" + longText + "," + fullMetadata.substr(1));
-    Fail<MediaInput, CommonReader, CommonWriter>(R"({"id":"old"})", fullInput);
+    Fail<Node>(R"({"id":"n"})", R"({"id":"n2","gbeIpAddresses":["a","b"],"hostName":)" + longText + "}");
+    Fail<SequenceOutput>(R"({"editMode":false})",
+                         R"({"sequenceOnAir":{"sequence":{"name":)" + longText + R"(,"id":"s"}},)" +
+                             fullSequenceOutput.substr(fullSequenceOutput.find("\"assetBlock")));
+    Fail<MetadataProfileDictionary>(R"({"a.b":"0","y.y":"y"})",
+                                    R"({"x.long":)" + longText + "," + fullMetadata.substr(1));
+    Fail<MediaInput>(R"({"id":"old"})", fullInput, CommonReader(), CommonWriter());
 }
 
 } // namespace

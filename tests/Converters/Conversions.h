@@ -67,33 +67,53 @@ inline JsonObject Parse(const std::string& text)
     return json;
 }
 
+template <typename ReaderType, typename WriterType>
+struct Converters
+{
+    using Reader = ReaderType;
+    using Writer = WriterType;
+};
+Converters<JsonToTimePointConverter, TimePointToJsonObjectConverter> ConvertersOf(const TimePoint&);
+Converters<JsonToMediaAssetConverter, MediaAssetToJsonConverter> ConvertersOf(const MediaAsset&);
+Converters<JsonToSequenceConverter, SequenceToJsonConverter> ConvertersOf(const Sequence&);
+Converters<JsonToSpeedConverter, SpeedToJsonConverter> ConvertersOf(const Speed&);
+Converters<JsonToBoundaryConverter, BoundaryToJsonConverter> ConvertersOf(const Boundary&);
+Converters<JsonToBoundaryConverter, BoundaryToJsonConverter> ConvertersOf(const std::unique_ptr<Boundary>&);
+Converters<JsonToSequenceOutputConverter, SequenceOutputToJsonConverter> ConvertersOf(const SequenceOutput&);
+Converters<JsonToMetadataProfileDictionaryConverter, MetadataProfileDictionaryToJsonConverter>
+ConvertersOf(const MetadataProfileDictionary&);
+Converters<JsonToNodeConverter, NodeToJsonConverter> ConvertersOf(const Node&);
+Converters<JsonToMediaIOConverter, MediaIOToJsonConverter> ConvertersOf(const MediaIO&);
+template <typename Entity>
+using ReaderOf = typename decltype(ConvertersOf(std::declval<const Entity&>()))::Reader;
+template <typename Entity>
+using WriterOf = typename decltype(ConvertersOf(std::declval<const Entity&>()))::Writer;
+
 /// The text that a writer makes of an entity; a failure stands behind it.
-template <typename Writer, typename Entity>
+template <typename Entity, typename Writer = WriterOf<Entity>>
 std::string Written(const Entity& entity, const Writer& writer = Writer())
 {
     Stringer stringer;
     const auto result = writer.To(entity, stringer);
     return stringer.ToString() + (result ? "" : std::string(" | ") + result.ErrorMessage());
 }
-template <typename Writer>
-std::string Written(const std::unique_ptr<Boundary>& boundary)
+inline std::string Written(const std::unique_ptr<Boundary>& boundary, const BoundaryToJsonConverter& writer = {})
 {
-    return boundary == nullptr ? "null" : Written<Writer>(*boundary);
+    return boundary == nullptr ? "null" : Written(*boundary, writer);
 }
 
 /// Reads a text into an entity that must take it.
-template <typename Reader, typename Entity>
-void Read(const std::string& text, Entity& entity)
+template <typename Entity, typename Reader = ReaderOf<Entity>>
+void Read(const std::string& text, Entity& entity, const Reader& reader = Reader())
 {
-    if (const auto result = Reader().To(Parse(text), entity); !result)
+    if (const auto result = reader.To(Parse(text), entity); !result)
         throw std::runtime_error(result.ErrorMessage());
 }
-
-template <typename Reader, typename Entity>
+template <typename Entity>
 Entity FromText(const std::string& text)
 {
     Entity entity{};
-    Read<Reader>(text, entity);
+    Read(text, entity);
     return entity;
 }
 

@@ -59,22 +59,6 @@ TEST_F(FatalInputsDeathTest, EndInTerminate)
     }
 }
 
-TEST_F(FatalInputsDeathTest, HaveHarmlessNeighbours)
-{
-    FromText<JsonToMediaIOConverter, MediaOutput>(
-        R"({"_type":"MediaOutput","inBoundary":{"_type":"BoundaryRelative","origin":"?"},)"
-        R"("outBoundary":{"_type":"BoundaryRelative","origin":""},)"
-        R"("currentTimePointOnAir":{"_type":"TimePoint","value":"12abc"},)"
-        R"("todTimecodeOnAir":"00:00:00:00@99999999999999999999"})");
-    for (const std::string value : {"null", "true", "1.5", "1e300", "9223372036854775808", "[]", "{}"})
-        FromText<JsonToMediaOutputConverter, MediaOutput>(R"({"currentTimePointOnAir":{"_type":"TimePoint","value":)" +
-                                                          value + "}}");
-    FromText<JsonToMediaIOConverter, MediaOutput>(
-        R"({"_type":"MediaOutput","inBoundary":{"_type":"BoundaryAbsolute","origin":"Absolute"},)"
-        R"("currentTimePointOnAir":{"value":"abc"}})");
-    FromText<JsonToMediaIOConverter, MediaInput>(R"({"_type":"MediaInput","inBoundary":)" + absoluteOrigin + "}");
-}
-
 // In a process of its own, where nobody has written a player channel before.
 TEST_F(FatalInputsDeathTest, TheFirstPlayersTimePointWriterIsKept)
 {

@@ -5,9 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <string>
-#include <typeinfo>
 #include <utility>
 #include <vector>
 
@@ -46,45 +46,33 @@ std::string Edited(std::string text, const std::string& edits)
     return text;
 }
 
-/// Does what a line says, with a target that was read from `before` (a new one when that is empty).
-template <typename Entity, typename Reader, typename Writer>
-void Check(const std::string& before, const std::string& line)
+/// What a line says, for a target that was read from `before` (a new one when that is empty).
+using Check = std::function<void(const std::string& before, const std::string& line)>;
+template <typename Entity, typename Reader = ReaderOf<Entity>, typename Writer = WriterOf<Entity>>
+Check Checking(const Reader& reader = Reader(), const Writer& writer = Writer())
 {
-    const auto sides = Split(line, " >> ");
-    const auto reading = Split(sides[0], " !! ");
-    const auto json = Parse(reading[0]);
-    const std::string message = reading.size() == 2 ? reading[1] : "";
-    const Reader reader;
-    for (const bool asTemporary : {false, true})
+    return [=](const std::string& before, const std::string& line)
     {
-        Entity entity;
-        if (!before.empty())
-            Read<Reader>(before, entity);
-        const auto unchanged = Written<Writer>(entity);
-        auto temporary = json;
-        const auto result = asTemporary ? reader.To(std::move(temporary), entity) : reader.To(json, entity);
-        EXPECT_STREQ(result.ErrorMessage(), message.c_str());
-        EXPECT_EQ(result, message.empty());
-        EXPECT_EQ(Written<Writer>(entity), sides.size() == 2 ? Edited(unchanged, sides[1]) : unchanged);
-        EXPECT_EQ(temporary, json);
-        EXPECT_STREQ(reader.GetLastConversionError(), "");
-    }
+        const auto sides = Split(line, " >> ");
+        const auto reading = Split(sides[0], " !! ");
+        const auto json = Parse(reading[0]);
+        const std::string message = reading.size() == 2 ? reading[1] : "";
+        for (const bool asTemporary : {false, true})
+        {
+            Entity entity;
+            if (!before.empty())
+                Read(before, entity, reader);
+            const auto unchanged = Written(entity, writer);
+            auto temporary = json;
+            const auto result = asTemporary ? reader.To(std::move(temporary), entity) : reader.To(json, entity);
+            EXPECT_STREQ(result.ErrorMessage(), message.c_str());
+            EXPECT_EQ(result, message.empty());
+            EXPECT_EQ(Written(entity, writer), sides.size() == 2 ? Edited(unchanged, sides[1]) : unchanged);
+            EXPECT_EQ(temporary, json);
+            EXPECT_STREQ(reader.GetLastConversionError(), "");
+        }
+    };
 }
-
-struct AssetReferenceReader : JsonToSharedReference<MediaAsset>
-{
-    AssetReferenceReader()
-        : JsonToSharedReference("MediaAssetRef", "mediaAsset", std::make_shared<JsonToMediaAssetConverter>())
-    {
-    }
-};
-struct AssetReferenceWriter : SharedReferenceToJson<MediaAsset, false>
-{
-    AssetReferenceWriter()
-        : SharedReferenceToJson("MediaAssetRef", "mediaAsset", std::make_shared<MediaAssetToJsonConverter>())
-    {
-    }
-};
 
 struct OperatorWriter : PelOperatorMetadataProfileToJsonConverter
 {
@@ -98,32 +86,29 @@ struct OperatorWriter : PelOperatorMetadataProfileToJsonConverter
 
 TEST(Readers, DoWhatTheirCasesSay)
 {
-    using Dictionary = MetadataProfileDictionary;
-    using Profile = PelOperatorMetadataProfile;
-    const std::map<std::string, void (*)(const std::string&, const std::string&)> checks = {
-        {"JsonToTimePointConverter TimePoint",
-         Check<TimePoint, JsonToTimePointConverter, TimePointToJsonObjectConverter>},
-        {"JsonToMediaAssetConverter MediaAsset",
-         Check<MediaAsset, JsonToMediaAssetConverter, MediaAssetToJsonConverter>},
-        {"JsonToSequenceConverter Sequence", Check<Sequence, JsonToSequenceConverter, SequenceToJsonConverter>},
+    const JsonToSharedReference<MediaAsset> referenceReader("MediaAssetRef", "mediaAsset",
+                                                            std::make_shared<JsonToMediaAssetConverter>());
+    const SharedReferenceToJson<MediaAsset, false> referenceWriter("MediaAssetRef", "mediaAsset",
+                                                                   std::make_shared<MediaAssetToJsonConverter>());
+    const std::map<std::string, Check> checks = {
+        {"JsonToTimePointConverter TimePoint", Checking<TimePoint>()},
+        {"JsonToMediaAssetConverter MediaAsset", Checking<MediaAsset>()},
+        {"JsonToSequenceConverter Sequence", Checking<Sequence>()},
         {"JsonToSharedReference SharedReference",
-         Check<SharedReference<MediaAsset>, AssetReferenceReader, AssetReferenceWriter>},
-        {"JsonToSpeedConverter Speed", Check<Speed, JsonToSpeedConverter, SpeedToJsonConverter>},
-        {"JsonToBoundaryConverter Boundary",
-         Check<std::unique_ptr<Boundary>, JsonToBoundaryConverter, BoundaryToJsonConverter>},
-        {"JsonToSequenceOutputConverter SequenceOutput",
-         Check<SequenceOutput, JsonToSequenceOutputConverter, SequenceOutputToJsonConverter>},
-        {"JsonToMetadataProfileDictionaryConverter MetadataProfileDictionary",
-         Check<Dictionary, JsonToMetadataProfileDictionaryConverter, MetadataProfileDictionaryToJsonConverter>},
+         Checking<SharedReference<MediaAsset>>(referenceReader, referenceWriter)},
+        {"JsonToSpeedConverter Speed", Checking<Speed>()},
+        {"JsonToBoundaryConverter Boundary", Checking<std::unique_ptr<Boundary>>()},
+        {"JsonToSequenceOutputConverter SequenceOutput", Checking<SequenceOutput>()},
+        {"JsonToMetadataProfileDictionaryConverter MetadataProfileDictionary", Checking<MetadataProfileDictionary>()},
         {"JsonToPelOperatorMetaDataConverter PelOperatorMetadataProfile",
-         Check<Profile, JsonToPelOperatorMetaDataConverter, OperatorWriter>},
-        {"JsonToNodeConverter Node", Check<Node, JsonToNodeConverter, NodeToJsonConverter>},
-        {"JsonToMediaIOConverter MediaInput", Check<MediaInput, JsonToMediaIOConverter, MediaIOToJsonConverter>},
-        {"JsonToMediaIOConverter MediaOutput", Check<MediaOutput, JsonToMediaIOConverter, MediaIOToJsonConverter>},
+         Checking<PelOperatorMetadataProfile>(JsonToPelOperatorMetaDataConverter(), OperatorWriter())},
+        {"JsonToNodeConverter Node", Checking<Node>()},
+        {"JsonToMediaIOConverter MediaInput", Checking<MediaInput>()},
+        {"JsonToMediaIOConverter MediaOutput", Checking<MediaOutput>()},
         {"JsonToMediaInputConverter MediaInput",
-         Check<MediaInput, JsonToMediaInputConverter, MediaInputToJsonConverter>},
+         Checking<MediaInput>(JsonToMediaInputConverter(), MediaInputToJsonConverter())},
         {"JsonToMediaOutputConverter MediaOutput",
-         Check<MediaOutput, JsonToMediaOutputConverter, MediaOutputToJsonConverter>},
+         Checking<MediaOutput>(JsonToMediaOutputConverter(), MediaOutputToJsonConverter())},
     };
     auto names = documents;
     std::vector<std::string> headings;
@@ -186,8 +171,8 @@ TEST(JsonToMetadataProfileDictionaryConverter, MeetsProfilesOfOtherKinds)
     MetadataProfileDictionary dictionary;
     dictionary.Set(operatorName, nullptr);
     dictionary.Set(FullyQualifiedName("a"), nullptr);
-    Read<JsonToMetadataProfileDictionaryConverter>(fullMetadata, dictionary);
-    EXPECT_EQ(Written<MetadataProfileDictionaryToJsonConverter>(dictionary), fullMetadata);
+    Read(fullMetadata, dictionary);
+    EXPECT_EQ(Written(dictionary), fullMetadata);
     dictionary.Set(FullyQualifiedName("d"), std::make_shared<PelOperatorMetadataProfile>());
     EXPECT_THROW(
         JsonToMetadataProfileDictionaryConverter().To(Parse(R"({"a.b":"kept","d.k":"x","e.k":"never"})"), dictionary),
@@ -202,8 +187,8 @@ TEST(Readers, AppendToWhatIsNoObjectChangesNothing)
 {
     MediaInput input;
     MediaOutput output;
-    Read<JsonToMediaIOConverter>(fullInput, input);
-    Read<JsonToMediaIOConverter>(fullOutput, output);
+    Read(fullInput, input);
+    Read(fullOutput, output);
     for (const auto* const text : {"null", "5", "\"text\"", "[]", "[{}]", "{}", R"({"_type":"Other"})"})
     {
         const auto json = Parse(text);
@@ -215,8 +200,8 @@ TEST(Readers, AppendToWhatIsNoObjectChangesNothing)
     EXPECT_TRUE(JsonToMediaInputConverter().Append(Parse(R"({"id":"x","metadata":{"a.b":"x"}})"), input));
     EXPECT_TRUE(JsonToMediaOutputConverter().Append(Parse(R"({"id":"x","mediaAssetOnAir":{}})"), output));
     EXPECT_TRUE(JsonToMediaIOConverter().Append(Parse(R"({"recordingStatus":"Idle","lastTimePoint":5})"), input));
-    EXPECT_EQ(Written<MediaIOToJsonConverter>(input), fullInput);
-    EXPECT_EQ(Written<MediaIOToJsonConverter>(output), fullOutput);
+    EXPECT_EQ(Written(input), fullInput);
+    EXPECT_EQ(Written(output), fullOutput);
 }
 
 } // namespace

@@ -48,19 +48,19 @@ const TimeCode fullTimeCode(2016, 3, 21, 14, 5, 9, 17, Rate(25), false);
 
 struct Writers : testing::Test
 {
-    const MediaInput fullRecorder = FromText<JsonToMediaIOConverter, MediaInput>(fullInput);
-    const MediaOutput fullPlayer = FromText<JsonToMediaIOConverter, MediaOutput>(fullOutput);
+    const MediaInput fullRecorder = FromText<MediaInput>(fullInput);
+    const MediaOutput fullPlayer = FromText<MediaOutput>(fullOutput);
 };
 
-template <typename Reader, typename Writer, typename Entity>
-void ExpectText(const Entity& entity, const std::string& text)
+template <typename Entity, typename Writer = WriterOf<Entity>>
+void ExpectText(const Entity& entity, const std::string& text, const Writer& writer = Writer())
 {
-    EXPECT_EQ(Written<Writer>(entity), text);
-    EXPECT_TRUE((FromText<Reader, Entity>(text) == entity));
+    EXPECT_EQ(Written(entity, writer), text);
+    EXPECT_TRUE(FromText<Entity>(text) == entity);
     Stringer stringer;
-    EXPECT_TRUE(Writer().To(Entity(entity), stringer)); // a temporary
+    EXPECT_TRUE(writer.To(Entity(entity), stringer)); // a temporary
     EXPECT_EQ(stringer.ToString(), text);
-    EXPECT_STREQ(Writer().GetLastConversionError(), "");
+    EXPECT_STREQ(writer.GetLastConversionError(), "");
 }
 
 TEST_F(Writers, WriteFullEntities)
@@ -81,43 +81,26 @@ TEST_F(Writers, WriteFullEntities)
                 fullPlayer.PrimaryTimecodeType() == TimecodePrimary::Tod &&
                 *fullPlayer.InBoundary() == BoundaryAbsolute(TimePoint(5)) &&
                 *fullPlayer.OutBoundary() == BoundaryRelative(BoundaryOrigin::RelativeToOppositeLoadBoundary, -25));
-    ExpectText<JsonToMediaInputConverter, MediaInputToJsonConverter>(fullRecorder, fullInput);
-    ExpectText<JsonToMediaIOConverter, MediaIOToJsonConverter>(fullRecorder, fullInput);
-    ExpectText<JsonToMediaOutputConverter, MediaOutputToJsonConverter>(fullPlayer, fullOutput);
-    ExpectText<JsonToMediaIOConverter, MediaIOToJsonConverter>(fullPlayer, fullOutput);
-    ExpectText<JsonToSequenceOutputConverter, SequenceOutputToJsonConverter>(*fullPlayer.Sequence(),
-                                                                             fullSequenceOutput);
-    ExpectText<JsonToNodeConverter, NodeToJsonConverter>(
-        Node(Identifier("n1"), -2, "srv", "10.0.0.1", {"10.0.1.2", "10.0.1.1"}, "6U", "B2", "1.2.3"), fullNode);
-    ExpectText<JsonToSpeedConverter, SpeedToJsonConverter>(
-        Speed(INT32_MIN, UINT32_MAX), R"({"_type":"Speed","numerator":-2147483648,"denominator":-1})");
+    ExpectText(fullRecorder, fullInput);
+    ExpectText(fullRecorder, fullInput, MediaInputToJsonConverter());
+    ExpectText(fullPlayer, fullOutput);
+    ExpectText(fullPlayer, fullOutput, MediaOutputToJsonConverter());
+    ExpectText(*fullPlayer.Sequence(), fullSequenceOutput);
+    ExpectText(Node(Identifier("n1"), -2, "srv", "10.0.0.1", {"10.0.1.2", "10.0.1.1"}, "6U", "B2", "1.2.3"), fullNode);
+    ExpectText(Speed(INT32_MIN, UINT32_MAX), R"({"_type":"Speed","numerator":-2147483648,"denominator":-1})");
     Stringer members;
     members.Object().Key("before").Value(1);
     EXPECT_TRUE(NodeToJsonConverter().AppendNode(members, Node()));
     EXPECT_EQ(members.CloseObject().ToString(), R"({"before":1,"_type":"Node","id":""})");
 }
 
-TEST_F(Writers, LeaveOutWhatIsEmpty)
+TEST_F(Writers, LeaveOutReferencesAndProfilesThatAreEmpty)
 {
-    ExpectText<JsonToMediaIOConverter, MediaIOToJsonConverter>(MediaInput(),
-                                                               R"({"_type":"MediaInput","recordingStatus":"Idle"})");
-    ExpectText<JsonToMediaIOConverter, MediaIOToJsonConverter>(MediaOutput(),
-                                                               R"({"_type":"MediaOutput","playingStatus":"Idle"})");
-    ExpectText<JsonToNodeConverter, NodeToJsonConverter>(Node(), R"({"_type":"Node","id":""})");
-    const std::string block = R"({"_type":"AssetBlockOnAir","id":"","mediaAsset":{"_type":"MediaAssetRef","id":""}})";
-    ExpectText<JsonToSequenceOutputConverter, SequenceOutputToJsonConverter>(
-        SequenceOutput(), R"({"_type":"SequenceOutput","assetBlockOnAir":)" + block + R"(,"editMode":false})");
-    ExpectText<JsonToSpeedConverter, SpeedToJsonConverter>(Speed(),
-                                                           R"({"_type":"Speed","numerator":0,"denominator":0})");
-    EXPECT_EQ(Written<BoundaryToJsonConverter>(BoundaryAbsolute()), R"({"_type":"BoundaryAbsolute"})");
-    EXPECT_EQ(Written<MetadataProfileDictionaryToJsonConverter>(MetadataProfileDictionary()), "{}");
-
     MediaInput channel;
     SharedReference<MediaAsset> withoutIdentifier(std::make_shared<MediaAsset>());
     channel.MediaAssetOnAir(withoutIdentifier);
     channel.Metadata().Set(FullyQualifiedName("a"), nullptr);
-    EXPECT_EQ(Written<MediaInputToJsonConverter>(channel),
-              R"({"_type":"MediaInput","metadata":{},"recordingStatus":"Idle"})");
+    EXPECT_EQ(Written(channel), R"({"_type":"MediaInput","metadata":{},"recordingStatus":"Idle"})");
 }
 
 TEST_F(Writers, EndTextsAtNulAndWriteThePlaceholderDate)
@@ -128,7 +111,7 @@ TEST_F(Writers, EndTextsAtNulAndWriteThePlaceholderDate)
     channel.RecordingStatus(static_cast<RecordingStatus>(7));
     channel.LastTodTimecode(TimeCode(10, 0, 0, 0, Rate(25), false));
     channel.LastUserTimecode(TimeCode(0, false, Rate(50), false)); // the empty one but for its date
-    EXPECT_EQ(Written<MediaIOToJsonConverter>(channel),
+    EXPECT_EQ(Written(channel),
               R"({"_type":"MediaInput","id":"a","name":"","recordingStatus":"Unknown",)"
               R"("lastTodTimecode":"-1-0-1-0-1T10:00:00:00@25","lastUserTimecode":"-1-0-1-0-1T00:00:00:00@50"})");
 }
@@ -156,7 +139,7 @@ TEST(MetadataProfileDictionaryToJsonConverter, WritesProfilesUnderTheirOwnNames)
     PelOperatorMetadataProfile empty;
     empty.Index(-1);
     dictionary.Set(std::make_shared<PelOperatorMetadataProfile>(empty));
-    EXPECT_EQ(Written<MetadataProfileDictionaryToJsonConverter>(dictionary), R"({"own.name.k":"v"})");
+    EXPECT_EQ(Written(dictionary), R"({"own.name.k":"v"})");
 }
 
 /// Claims a kind or an origin that its class does not have.
@@ -178,23 +161,19 @@ TEST_F(Writers, RefuseWhatIsOfNoKind)
 {
     StrangeChannel channel;
     channel.Name("kept");
-    EXPECT_EQ(Written<MediaIOToJsonConverter>(channel),
-              "{} | Unsupported MediaIO type - should be MediaInput or MediaOutput");
+    EXPECT_EQ(Written(channel), "{} | Unsupported MediaIO type - should be MediaInput or MediaOutput");
     for (const auto* const type : {"MediaInput", "MediaOutput"})
         EXPECT_FALSE(
             JsonToMediaIOConverter().To(Parse(std::string(R"({"name":"x","_type":")") + type + "\"}"), channel));
     EXPECT_EQ(channel.Name(), "kept");
 
-    using Writer = BoundaryToJsonConverter;
-    EXPECT_EQ(Written<Writer>(BoundaryRelative(BoundaryOrigin::Absolute, 1)), "{} | Null BoundaryAbsolute");
-    EXPECT_EQ(Written<Writer>(StrangeBoundary(BoundaryOrigin::Absolute)), "{} | Null BoundaryAbsolute");
-    EXPECT_EQ(Written<Writer>(StrangeBoundary(BoundaryOrigin::RelativeToOppositeMediaBoundary)),
-              "{} | Null BoundaryRelative");
+    EXPECT_EQ(Written(BoundaryRelative(BoundaryOrigin::Absolute, 1)), "{} | Null BoundaryAbsolute");
+    EXPECT_EQ(Written(StrangeBoundary(BoundaryOrigin::Absolute)), "{} | Null BoundaryAbsolute");
+    EXPECT_EQ(Written(StrangeBoundary(BoundaryOrigin::RelativeToOppositeMediaBoundary)), "{} | Null BoundaryRelative");
     MediaOutput output;
     output.InBoundary(std::make_unique<StrangeBoundary>(BoundaryOrigin::Absolute));
     output.OutBoundary(output.InBoundary()->Clone());
-    EXPECT_EQ(Written<MediaOutputToJsonConverter>(output),
-              R"({"_type":"MediaOutput","playingStatus":"Idle","inBoundary":{},"outBoundary":{}})");
+    EXPECT_EQ(Written(output), R"({"_type":"MediaOutput","playingStatus":"Idle","inBoundary":{},"outBoundary":{}})");
 }
 
 /// Writes a mark for each time point; reports a failure when it has a text for it.

@@ -3,7 +3,6 @@
 #include <Converters/Conversions.h>
 #include <Converters/ModelGenerator.h>
 
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/MediaAssetToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
 
@@ -24,23 +23,22 @@ namespace
 {
 
 // What an entity holds, also what its writer leaves out.
-template <typename Writer, typename Entity>
+template <typename Entity>
 std::string Dump(const Entity& entity)
 {
-    auto text = Written<Writer>(entity);
+    auto text = Written(entity);
     if constexpr (std::is_same_v<Entity, SequenceOutput>)
         if (const auto sequence = entity.SequenceOnAir().Pointer())
             text += " sequence " + sequence->Id().Value() + '/' + sequence->Name();
     if constexpr (std::is_base_of_v<MediaIO, Entity>)
     {
         if (const auto asset = entity.MediaAssetOnAir().Pointer())
-            text += Written<DataModel::MediaAssets::Serialization::Json::MediaAssetToJsonConverter>(*asset);
+            text += Written(*asset);
         if (const auto profile = entity.Metadata().Find("qiv.peloperator"))
             text += " index " + std::to_string(dynamic_cast<const PelOperatorMetadataProfile&>(*profile).Index());
     }
     if constexpr (std::is_same_v<Entity, MediaOutput>)
-        text += Written<SpeedToJsonConverter>(entity.SpeedOnAir()) +
-                (entity.Sequence() ? Dump<SequenceOutputToJsonConverter>(*entity.Sequence()) : "");
+        text += Written(entity.SpeedOnAir()) + (entity.Sequence() ? Dump(*entity.Sequence()) : "");
     return text;
 }
 
@@ -145,23 +143,24 @@ struct Counts
 };
 
 // Generated documents of one kind, mutated up to three times: what the inspection says against what the reader does.
-template <typename Reader, typename Writer, typename Entity>
+template <typename Entity>
 void CheckKind(DocumentKind kind, const std::string& full, Entity (ModelGenerator::*make)(), Counts& counts)
 {
     constexpr bool isChannel = std::is_base_of_v<MediaIO, Entity>;
     // The failure's text, and what an empty and a full entity then hold.
-    const auto read = [&full](const JsonObject& json)
+    const ReaderOf<Entity> reader;
+    const auto read = [&](const JsonObject& json)
     {
         Entity empty{};
-        auto target = FromText<Reader, Entity>(full);
-        const auto result = Reader().To(json, empty);
-        static_cast<void>(Reader().To(json, target));
-        return std::pair(std::string(result.ErrorMessage()), Dump<Writer>(empty) + Dump<Writer>(target));
+        auto target = FromText<Entity>(full);
+        const auto result = reader.To(json, empty);
+        static_cast<void>(reader.To(json, target));
+        return std::pair(std::string(result.ErrorMessage()), Dump(empty) + Dump(target));
     };
     ModelGenerator generator(2);
     for (int i = 0; i < 500; ++i)
     {
-        auto document = Parse(Written<Writer>((generator.*make)()));
+        auto document = Parse(Written((generator.*make)()));
         const auto mutations = generator.Below(4);
         for (auto count = mutations; count > 0; --count)
             Mutate(document, generator);
@@ -197,14 +196,14 @@ void CheckKind(DocumentKind kind, const std::string& full, Entity (ModelGenerato
         auto merged = IndependentCopy(target), snapshot = Entity{}, mergedWhole = copy(), snapshotWhole = copy();
         if constexpr (isChannel)
             snapshot.Id(target.Id());
-        const auto before = Dump<Writer>(target);
-        static_cast<void>(Reader().To(document, merged));
-        static_cast<void>(Reader().To(document, snapshot));
+        const auto before = Dump(target);
+        static_cast<void>(reader.To(document, merged));
+        static_cast<void>(reader.To(document, snapshot));
         ASSERT_EQ(MergeWhole(document, mergedWhole).ErrorMessage(), outcome.first);
         ASSERT_EQ(ReadSnapshot(document, snapshotWhole).ErrorMessage(), outcome.first);
-        ASSERT_EQ(Dump<Writer>(mergedWhole), failure != nullptr ? before : Dump<Writer>(merged));
-        ASSERT_EQ(Dump<Writer>(snapshotWhole), failure != nullptr ? before : Dump<Writer>(snapshot));
-        ASSERT_EQ(Dump<Writer>(target), before);
+        ASSERT_EQ(Dump(mergedWhole), failure != nullptr ? before : Dump(merged));
+        ASSERT_EQ(Dump(snapshotWhole), failure != nullptr ? before : Dump(snapshot));
+        ASSERT_EQ(Dump(target), before);
 
         ++(failure != nullptr ? counts.failures : counts.successes);
         if (failure != nullptr)
@@ -242,18 +241,13 @@ void CheckKind(DocumentKind kind, const std::string& full, Entity (ModelGenerato
 TEST(InspectDocument, TellsWhatReadersDoWithAnyDocument)
 {
     Counts counts;
-    CheckKind<JsonToMediaIOConverter, MediaIOToJsonConverter>(DocumentKind::MediaInput, fullInput,
-                                                              &ModelGenerator::MakeMediaInput, counts);
-    CheckKind<JsonToMediaIOConverter, MediaIOToJsonConverter>(DocumentKind::MediaOutput, fullOutput,
-                                                              &ModelGenerator::MakeMediaOutput, counts);
-    CheckKind<JsonToSequenceOutputConverter, SequenceOutputToJsonConverter>(
-        DocumentKind::SequenceOutput, fullSequenceOutput, &ModelGenerator::MakeSequenceOutput, counts);
-    CheckKind<JsonToSpeedConverter, SpeedToJsonConverter>(DocumentKind::Speed, R"({"numerator":-7,"denominator":3})",
-                                                          &ModelGenerator::MakeSpeed, counts);
-    CheckKind<JsonToNodeConverter, NodeToJsonConverter>(DocumentKind::Node, fullNode, &ModelGenerator::MakeNode,
-                                                        counts);
-    CheckKind<JsonToBoundaryConverter, BoundaryToJsonConverter>(
-        DocumentKind::Boundary, R"({"_type":"BoundaryRelative","offset":3})", &ModelGenerator::MakeBoundary, counts);
+    CheckKind(DocumentKind::MediaInput, fullInput, &ModelGenerator::MakeMediaInput, counts);
+    CheckKind(DocumentKind::MediaOutput, fullOutput, &ModelGenerator::MakeMediaOutput, counts);
+    CheckKind(DocumentKind::SequenceOutput, fullSequenceOutput, &ModelGenerator::MakeSequenceOutput, counts);
+    CheckKind(DocumentKind::Speed, R"({"numerator":-7,"denominator":3})", &ModelGenerator::MakeSpeed, counts);
+    CheckKind(DocumentKind::Node, fullNode, &ModelGenerator::MakeNode, counts);
+    CheckKind(DocumentKind::Boundary, R"({"_type":"BoundaryRelative","offset":3})", &ModelGenerator::MakeBoundary,
+              counts);
     // Otherwise the mutations are too tame or too wild to show anything.
     const auto [clean, successes, failures, skipped, used, fatal] = counts;
     EXPECT_TRUE(clean > 500 && successes > 1500 && failures > 500 && skipped > 1000 && used > 5000 && fatal > 10)
@@ -287,7 +281,7 @@ TEST(ReadText, TellsWhatIsWrongAndWhere)
     for (const auto& line : Lines("Inspection/cases/texts.ndjson", none))
     {
         const auto expected = Parse(line);
-        auto channel = FromText<JsonToMediaIOConverter, MediaOutput>(fullOutput);
+        auto channel = FromText<MediaOutput>(fullOutput);
         for (auto* const read : {static_cast<TextResult (*)(std::string_view, MediaIO&)>(MergeText),
                                  static_cast<TextResult (*)(std::string_view, MediaIO&)>(ReadSnapshotText)})
         {
@@ -301,7 +295,7 @@ TEST(ReadText, TellsWhatIsWrongAndWhere)
             told["message"] = result.ErrorMessage();
             EXPECT_EQ(told, expected);
         }
-        EXPECT_EQ(Written<MediaIOToJsonConverter>(channel), fullOutput);
+        EXPECT_EQ(Written(channel), fullOutput);
     }
     JsonObject json;
     EXPECT_TRUE(ParseText(std::string(100, '[') + std::string(100, ']'), json));
@@ -309,12 +303,11 @@ TEST(ReadText, TellsWhatIsWrongAndWhere)
 
 TEST(ReadText, MergesAndReplaces)
 {
-    auto channel = FromText<JsonToMediaIOConverter, MediaInput>(fullInput);
+    auto channel = FromText<MediaInput>(fullInput);
     EXPECT_TRUE(MergeText(R"({"_type": "MediaInput", "name": "N"})", channel));
     EXPECT_EQ(channel.RecordingStatus(), RecordingStatus::Recording);
     EXPECT_TRUE(ReadSnapshotText(R"({"_type": "MediaInput", "metadata": {"a.b": "c"}})", channel));
-    EXPECT_EQ(Written<MediaIOToJsonConverter>(channel),
-              R"({"_type":"MediaInput","id":"c1","metadata":{"a.b":"c"},"recordingStatus":"Idle"})");
+    EXPECT_EQ(Written(channel), R"({"_type":"MediaInput","id":"c1","metadata":{"a.b":"c"},"recordingStatus":"Idle"})");
     EXPECT_TRUE(ReadSnapshotText(R"({"_type": "MediaInput", "id": "other"})", channel));
     EXPECT_EQ(channel.Id().Value(), "other");
 
@@ -326,12 +319,11 @@ TEST(ReadText, MergesAndReplaces)
     SequenceOutput sequence;
     Node node;
     EXPECT_TRUE(MergeText(fullSequenceOutput, sequence) && MergeText(fullNode, node));
-    EXPECT_EQ(Written<SequenceOutputToJsonConverter>(sequence) + Written<NodeToJsonConverter>(node),
-              fullSequenceOutput + fullNode);
+    EXPECT_EQ(Written(sequence) + Written(node), fullSequenceOutput + fullNode);
     std::unique_ptr<Boundary> boundary;
     EXPECT_TRUE(MergeText(R"({"_type": "BoundaryRelative", "offset": 5})", boundary));
     EXPECT_FALSE(MergeText(R"({"_type": "BoundaryAbsolute", "timepoint": 5})", boundary));
-    EXPECT_EQ(Written<BoundaryToJsonConverter>(boundary),
+    EXPECT_EQ(Written(boundary),
               R"({"_type":"BoundaryRelative","origin":"RelativeToCorrespondingMediaBoundary","offset":5})");
 }
 

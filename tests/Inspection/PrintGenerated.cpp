@@ -17,11 +17,11 @@ int main()
             input.LastTodTimecode({10, 0, 0, i, Qiv::TimePoints::Rate(120), false});
             input.LastUserTimecode({2016, 3, 21, 23, 59, 59, 119, Qiv::TimePoints::Rate(120), false});
         }
-        std::cout << Written<MediaIOToJsonConverter>(static_cast<const MediaIO&>(input)) << '\n'
-                  << Written<MediaIOToJsonConverter>(static_cast<const MediaIO&>(generator.MakeMediaOutput())) << '\n'
-                  << Written<SequenceOutputToJsonConverter>(generator.MakeSequenceOutput()) << '\n'
-                  << Written<SpeedToJsonConverter>(generator.MakeSpeed()) << '\n'
-                  << Written<BoundaryToJsonConverter>(generator.MakeBoundary()) << '\n'
-                  << Written<NodeToJsonConverter>(generator.MakeNode()) << '\n';
+        std::cout << Written(input) << '\n'
+                  << Written(generator.MakeMediaOutput()) << '\n'
+                  << Written(generator.MakeSequenceOutput()) << '\n'
+                  << Written(generator.MakeSpeed()) << '\n'
+                  << Written(generator.MakeBoundary()) << '\n'
+                  << Written(generator.MakeNode()) << '\n';
     }
 }
