@@ -2,6 +2,8 @@
 #include <Qiv/DataModel/Tarvonel/MediaIOs/Parser/SpeedParser.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/Speed.h>
 
+#include "ThrownText.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -91,22 +93,20 @@ TEST(SpeedParser, ReadsWhatTheFormatterWritesAndNothingElse)
         EXPECT_EQ(read.Denominator(), speed.Denominator()) << speed.ToString();
     }
     EXPECT_EQ(Speed(INT32_MIN, UINT32_MAX).ToString(), "-2147483648/4294967295");
-    for (const std::string text : {"", "+1/2", "1/+2", " 1/2", "1/ 2", "1/2 ", "1.0/2", "0x1/2", "1:2", "2147483648/1",
-                                   "-2147483649/1", "1/4294967296"})
-    {
+    for (const auto* const text : {"2147483648/1", "-2147483649/1", "1/4294967296"})
         EXPECT_FALSE(parser.IsStringFormatValid(text)) << text;
-        EXPECT_THROW(parser.Parse(text), std::invalid_argument) << text;
-    }
 
     // Any text over the characters that matter is valid exactly when the form fits.
     const std::regex form("-?[0-9]+/[0-9]+");
     std::mt19937 random(3);
-    for (int i = 0; i < 5000; ++i)
+    for (int i = 0; i < 50000; ++i)
     {
         std::string text;
         for (auto length = random() % 6; length > 0; --length)
-            text += std::string("-/10\0", 5)[random() % 5];
-        EXPECT_EQ(parser.IsStringFormatValid(text), std::regex_match(text, form)) << text;
+            text += std::string("-/10\0+ .x:", 10)[random() % (i % 2 == 0 ? 4 : 10)];
+        const bool isValid = std::regex_match(text, form);
+        EXPECT_EQ(parser.IsStringFormatValid(text), isValid) << text;
+        EXPECT_EQ(ThrownText<std::invalid_argument>([&] { parser.Parse(text); }) == "nothing thrown", isValid) << text;
     }
 }
 

@@ -95,35 +95,26 @@ TEST_P(LabelsOfADay, AreConsecutiveSamplesAndFormatBackToThemselves)
 {
     const bool isDrop = GetParam() < 0;
     const int rate = std::abs(GetParam());
-    std::int64_t total = TimeCode(2016, 2, 29, 0, 0, 0, 0, Rate(rate), isDrop).TotalSample();
-    const std::int64_t first = total;
-    std::string expected = (isDrop ? "2016-02-29T00:00:00;00@" : "2016-02-29T00:00:00:00@") + std::to_string(rate);
-    std::string withThreeDigits = expected; // of the frame
-    withThreeDigits.insert(20, "1");
-    const auto put = [&](std::size_t position, int value)
-    {
-        expected[position] = static_cast<char>('0' + value / 10);
-        expected[position + 1] = static_cast<char>('0' + value % 10);
-    };
-    char buffer[QivTimeCodeFormatter::MaximumLength];
+    const std::int64_t first = TimeCode(2016, 2, 29, 0, 0, 0, 0, Rate(rate), isDrop).TotalSample();
+    std::vector<std::string> frames;
+    for (int frame = 0; frame < rate; ++frame)
+        frames.push_back((frame < 10 ? "0" : "") + std::to_string(frame) + "@" + std::to_string(rate));
+    std::int64_t total = first;
+    std::string label;
+    char second[32], buffer[QivTimeCodeFormatter::MaximumLength];
     for (int time = 0; time < 86400; ++time)
     {
-        put(11, time / 3600);
-        put(14, time / 60 % 60);
-        put(17, time % 60);
-        withThreeDigits.replace(0, 20, expected, 0, 20);
+        std::snprintf(second, sizeof second, "2016-02-29T%02d:%02d:%02d%c", time / 3600, time / 60 % 60, time % 60,
+                      isDrop ? ';' : ':');
         const bool isGap = isDrop && time % 60 == 0 && time % 600 != 0;
         for (int frame = isGap ? rate / 15 : 0; frame < rate; ++frame, ++total)
         {
-            put(20, frame % 100);
-            if (frame >= 100)
-                withThreeDigits.replace(21, 2, expected, 20, 2);
-            const std::string& label = frame < 100 ? expected : withThreeDigits;
-            if (QivTimeCodeFormatter::FormatTo(TimeCode(total, isDrop, Rate(rate), true), buffer) != label)
-                FAIL() << label << " is written as " << buffer;
+            label.assign(second).append(frames[static_cast<std::size_t>(frame)]);
+            ASSERT_TRUE(QivTimeCodeFormatter::FormatTo(TimeCode(total, isDrop, Rate(rate), true), buffer) == label)
+                << label << " is written as " << buffer;
             TimeCode read;
-            if (frame < 100 && !(QivTimeCodeParser::TryRead(label, read) && read.TotalSample() == total))
-                FAIL() << label << " is read as " << read.TotalSample() << ", not " << total;
+            ASSERT_TRUE(frame >= 100 || (QivTimeCodeParser::TryRead(label, read) && read.TotalSample() == total))
+                << label << " is read as " << read.TotalSample() << ", not " << total;
         }
     }
     EXPECT_EQ(total - first, TimeCode(0, isDrop, Rate(rate), true).SamplePerDay());
