@@ -53,4 +53,9 @@ inline std::vector<std::string> Lines(const std::string& file, Names& names)
     return lines;
 }
 
+inline std::vector<std::string> Lines(const std::string& file, Names&& names = {})
+{
+    return Lines(file, names);
+}
+
 } // namespace Qiv::Tests

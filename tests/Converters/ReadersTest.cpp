@@ -110,10 +110,9 @@ TEST(Readers, DoWhatTheirCasesSay)
         {"JsonToMediaOutputConverter MediaOutput",
          Checking<MediaOutput>(JsonToMediaOutputConverter(), MediaOutputToJsonConverter())},
     };
-    auto names = documents;
     std::vector<std::string> headings;
     bool isGroupComplete = false;
-    for (const auto& line : Lines("Converters/cases/readers.txt", names))
+    for (const auto& line : Lines("Converters/cases/readers.txt", Names(documents)))
     {
         const bool isHeading = line.rfind("== ", 0) == 0;
         if (isHeading && std::exchange(isGroupComplete, false))

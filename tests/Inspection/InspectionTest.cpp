@@ -86,8 +86,7 @@ JsonObject Without(JsonObject document, const Keys& keys)
 
 void Mutate(JsonObject& document, ModelGenerator& generator)
 {
-    Names none;
-    static const auto lines = Lines("Inspection/cases/mutations.ndjson", none);
+    static const auto lines = Lines("Inspection/cases/mutations.ndjson");
     static const auto values = Parse(lines.at(0)), names = Parse(lines.at(1)), fatal = Parse(lines.at(2));
     const auto places = Places(document);
     if (places.empty())
@@ -257,8 +256,7 @@ TEST(InspectDocument, TellsWhatReadersDoWithAnyDocument)
 TEST(InspectDocument, TellsWhatIsKnownOfTheCases)
 {
     std::vector<std::string> told; // of the last document, and not yet compared
-    Names none;
-    for (const auto& line : Lines("Inspection/cases/findings.txt", none))
+    for (const auto& line : Lines("Inspection/cases/findings.txt"))
     {
         if (line[0] == ' ')
         {
@@ -277,8 +275,7 @@ TEST(InspectDocument, TellsWhatIsKnownOfTheCases)
 
 TEST(ReadText, TellsWhatIsWrongAndWhere)
 {
-    Names none;
-    for (const auto& line : Lines("Inspection/cases/texts.ndjson", none))
+    for (const auto& line : Lines("Inspection/cases/texts.ndjson"))
     {
         const auto expected = Parse(line);
         auto channel = FromText<MediaOutput>(fullOutput);

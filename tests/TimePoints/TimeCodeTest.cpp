@@ -6,6 +6,7 @@
 #include <Qiv/TimePoints/QivTimeCodeParser.h>
 #include <Qiv/TimePoints/TimeCodeBuilder.h>
 
+#include "Cases.h"
 #include "ThrownText.h"
 
 #include <gtest/gtest.h>
@@ -236,33 +237,18 @@ TEST(TimeCodeBuilder, ReportsTheFirstFailedCheck)
         EXPECT_EQ(ThrownText<std::out_of_range>([&] { EXPECT_TRUE(builder.IsValidToBuildWithexception()); }), text);
         return text == "nothing thrown" ? "" : text;
     };
-    const auto date = [&](int year, int month, int day) { return error(TimeCodeBuilder().Date(year, month, day)); };
-    const auto time = [&](int hour, int minute, int second, int sample, Rate rate = Rate(25), bool isDrop = false)
-    { return error(TimeCodeBuilder().ClockTime(hour, minute, second, sample).Rate(rate).IsDrop(isDrop)); };
-    const std::pair<std::string, const char*> rows[] = {
-        {date(2261, 12, 31) + date(2000, 2, 29) + date(2004, 2, 29) + date(1900, 1, 1), ""},
-        {date(2262, 13, 0), "year 2262 must be between 1900 and 2261"},
-        {date(1899, 1, 1), "year 1899 must be between 1900 and 2261"},
-        {date(2000, 0, 0), "month 0 must be between 1 and 12"},
-        {date(2000, 13, 1), "month 13 must be between 1 and 12"},
-        {date(2100, 2, 29), "day 29is negative or greater than 28 in month 2"},
-        {date(2000, 4, 0), "day 0is negative or greater than 30 in month 4"},
-        {error(TimeCodeBuilder().Day(32)), "day 32is negative or greater than 31 in month 1"}, // also without date
-        {time(23, 59, 59, 24) + time(0, 0, 0, -5) + time(0, 0, 0, -1, Rate(0)), ""},
-        {time(24, 60, 60, 99), "hour 24 must be between 0 and 23"},
-        {time(0, -1, 60, 99), "minute -1 must be between 0 and 59"},
-        {time(0, 0, 60, 99), "second 60 must be between 0 and 59"},
-        {time(0, 0, 0, 99999, Rate(30000, 1001)), "Denominator 1001 must be between equals to 1"},
-        {time(0, 0, 0, 25), "Sample 25 is greater than numerator ratio 25"},
-        {time(0, 1, 0, 2, Rate(30), true) + time(0, 10, 0, 0, Rate(30), true), ""},
-        {time(0, 1, 0, 1, Rate(30), true), "In dropped TimeCode, this value doesn't exist 1:0;1"},
-        {time(0, 1, 0, 4, Rate(60), true) + time(0, 1, 1, 0, Rate(60), true), ""},
-        {time(0, 1, 0, 3, Rate(60), true), "In dropped TimeCode, this value doesn't exist 1:0;3"},
-        {time(0, 1, 0, 2, Rate(25), true), "In dropped TimeCode, this value doesn't exist 1:0;2"},
-        {time(0, 1, 1, 2, Rate(25), true), "Rate 25 / 1 is not compatible with drop TC format"},
-    };
-    for (const auto& [actual, expected] : rows)
-        EXPECT_EQ(actual, expected);
+    for (const auto& line : Tests::Lines("TimePoints/cases/fields.txt"))
+    {
+        int year, month, day, hour, minute, second, sample, numerator, denominator;
+        char separator;
+        ASSERT_EQ(std::sscanf(line.c_str(), "%d-%d-%d %d:%d:%d%c%d@%d/%d", &year, &month, &day, &hour, &minute, &second,
+                              &separator, &sample, &numerator, &denominator),
+                  10);
+        auto builder = TimeCodeBuilder().ClockTime(hour, minute, second, sample).IsDrop(separator == ';');
+        builder.Date(year, month, day).Rate(Rate(numerator, denominator));
+        EXPECT_EQ(error(builder), Tests::Split(line + " !! ", " !! ")[1]) << line;
+    }
+    EXPECT_EQ(error(TimeCodeBuilder().Day(32)), "day 32is negative or greater than 31 in month 1"); // also without date
     EXPECT_THROW(TimeCode(24, 0, 0, 0, Rate(25), false), std::out_of_range);
     EXPECT_EQ(TimeCodeBuilder().Build(), TimeCode(25567LL * 86400 * 50, false, Rate(50), false));
     EXPECT_TRUE(TimeCodeBuilder().Date(2000, 1, 1).ClockTime(1, 2, 3, 4).Build().HasDate());
