@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <pthread.h>
-
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -110,26 +108,6 @@ TEST(Converters, ServeEightThreads)
             });
     for (auto& thread : threads)
         thread.join();
-}
-
-TEST(Converters, NeedLittleStack)
-{
-    std::pair<JsonObject, std::string> work(Parse(fullOutput), "");
-    const auto run = [](void* argument) -> void*
-    {
-        auto& [json, text] = *static_cast<std::pair<JsonObject, std::string>*>(argument);
-        MediaOutput channel;
-        text = JsonToMediaIOConverter().To(json, channel) ? Written(channel) : "failed";
-        return nullptr;
-    };
-    pthread_attr_t attributes;
-    pthread_t thread{};
-    pthread_attr_init(&attributes);
-    ASSERT_EQ(pthread_attr_setstacksize(&attributes, 256 * 1024), 0);
-    ASSERT_EQ(pthread_create(&thread, &attributes, run, &work), 0);
-    pthread_join(thread, nullptr);
-    pthread_attr_destroy(&attributes);
-    EXPECT_EQ(work.second, fullOutput);
 }
 
 } // namespace

@@ -44,24 +44,17 @@ std::string Dump(const Entity& entity)
 
 // All members and elements of a document: RFC 6901 pointer to the keys that it consists of.
 using Keys = std::vector<std::string>;
-void List(const JsonObject& json, const std::string& pointer, const Keys& keys, std::map<std::string, Keys>& places)
+std::map<std::string, Keys> Places(const JsonObject& json, const std::string& pointer = "", const Keys& keys = {})
 {
+    std::map<std::string, Keys> places;
     for (auto value = json.begin(); value != json.end(); ++value)
     {
         auto below = keys;
         below.push_back(json.isArray() ? std::to_string(value.index()) : value.name());
-        auto escaped = pointer + '/';
-        for (const char character : below.back())
-            escaped += character == '~' ? "~0" : character == '/' ? "~1" : std::string(1, character);
+        const auto escaped = pointer + '/' + ReplacedAll(ReplacedAll(below.back(), "~", "~0"), "/", "~1");
         places[escaped] = below;
-        List(*value, escaped, below, places);
+        places.merge(Places(*value, escaped, below));
     }
-}
-
-std::map<std::string, Keys> Places(const JsonObject& document)
-{
-    std::map<std::string, Keys> places;
-    List(document, "", {}, places);
     return places;
 }
 
@@ -202,6 +195,14 @@ void CheckKind(DocumentKind kind, const std::string& rule, const std::string& fu
         ASSERT_EQ(ReadSnapshot(document, snapshotWhole).ErrorMessage(), outcome.first);
         ASSERT_EQ(Dump(mergedWhole), failure != nullptr ? before : Dump(merged));
         ASSERT_EQ(Dump(snapshotWhole), failure != nullptr ? before : Dump(snapshot));
+        if (const auto text = document.toStyledString(); !document.isNull())
+        {
+            auto mergedText = copy(), snapshotText = copy();
+            ASSERT_EQ(MergeText(text, mergedText).ErrorMessage(), outcome.first);
+            ASSERT_EQ(ReadSnapshotText(text, snapshotText).ErrorMessage(), outcome.first);
+            ASSERT_EQ(Dump(mergedText), Dump(mergedWhole));
+            ASSERT_EQ(Dump(snapshotText), Dump(snapshotWhole));
+        }
         ASSERT_EQ(Dump(target), before);
 
         ++(failure != nullptr ? counts.failures : counts.successes);
@@ -296,32 +297,6 @@ TEST(ReadText, TellsWhatIsWrongAndWhere)
     }
     JsonObject json;
     EXPECT_TRUE(ParseText(std::string(100, '[') + std::string(100, ']'), json));
-}
-
-TEST(ReadText, MergesAndReplaces)
-{
-    auto channel = FromText<MediaInput>(fullInput);
-    EXPECT_TRUE(MergeText(R"({"_type": "MediaInput", "name": "N"})", channel));
-    EXPECT_EQ(channel.RecordingStatus(), RecordingStatus::Recording);
-    EXPECT_TRUE(ReadSnapshotText(R"({"_type": "MediaInput", "metadata": {"a.b": "c"}})", channel));
-    EXPECT_EQ(Written(channel), R"({"_type":"MediaInput","id":"c1","metadata":{"a.b":"c"},"recordingStatus":"Idle"})");
-    EXPECT_TRUE(ReadSnapshotText(R"({"_type": "MediaInput", "id": "other"})", channel));
-    EXPECT_EQ(channel.Id().Value(), "other");
-
-    Speed speed(1, 2);
-    EXPECT_TRUE(MergeText(R"({"numerator": 3})", speed));
-    EXPECT_EQ(speed, Speed(3, 2));
-    EXPECT_TRUE(ReadSnapshotText(R"({"numerator": 3})", speed));
-    EXPECT_EQ(speed, Speed(3, 0));
-    SequenceOutput sequence;
-    Node node;
-    EXPECT_TRUE(MergeText(fullSequenceOutput, sequence) && MergeText(fullNode, node));
-    EXPECT_EQ(Written(sequence) + Written(node), fullSequenceOutput + fullNode);
-    std::unique_ptr<Boundary> boundary;
-    EXPECT_TRUE(MergeText(R"({"_type": "BoundaryRelative", "offset": 5})", boundary));
-    EXPECT_FALSE(MergeText(R"({"_type": "BoundaryAbsolute", "timepoint": 5})", boundary));
-    EXPECT_EQ(Written(boundary),
-              R"({"_type":"BoundaryRelative","origin":"RelativeToCorrespondingMediaBoundary","offset":5})");
 }
 
 } // namespace Qiv::Tests

@@ -23,13 +23,12 @@ std::string OutcomeOf(const Function& read)
         const TimeCode timeCode = read();
         return timeCode.ToString() + " #" + std::to_string(timeCode.TotalSample());
     }
-    catch (const std::out_of_range& error)
+    catch (const std::logic_error& error)
     {
-        return std::string("out of range: ") + error.what();
-    }
-    catch (const std::invalid_argument& error)
-    {
-        return std::string("invalid argument: ") + error.what();
+        const std::string kind = typeid(error) == typeid(std::out_of_range)       ? "out of range: "
+                                 : typeid(error) == typeid(std::invalid_argument) ? "invalid argument: "
+                                                                                  : "another class: ";
+        return kind + error.what();
     }
 }
 
