@@ -22,16 +22,13 @@ std::shared_ptr<GenericMetadataProfile> MakeProfile(const std::string& name,
 }
 
 /// Takes any name, as a profile of another library might.
-class ForeignProfile : public MetadataProfile
+struct ForeignProfile : MetadataProfile
 {
-public:
-    explicit ForeignProfile(const std::string& name) : name_(name) {}
-    Name FullyQualifiedName() const override { return name_; }
+    explicit ForeignProfile(const std::string& claimed) : name(claimed) {}
+    Name FullyQualifiedName() const override { return name; }
     bool Equals(const MetadataProfile&) const override { return true; }
     std::shared_ptr<MetadataProfile> Clone() const override { return std::make_shared<ForeignProfile>(*this); }
-
-private:
-    Name name_;
+    Name name;
 };
 
 TEST(GenericMetadataProfile, IsEqualByNameAndContent)

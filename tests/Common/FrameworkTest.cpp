@@ -32,30 +32,6 @@ TEST(Result, IsAFailureExactlyWhenAMessageIsGiven)
     EXPECT_STREQ(Result().ErrorMessage(), "");
 }
 
-struct Appending : Converter<std::string, std::string>
-{
-    using Converter::To;
-    Result To(const std::string& from, std::string& to) const override
-    {
-        to += from;
-        return from.empty() ? Result("empty") : Result();
-    }
-};
-
-TEST(Converter, ForwardsATemporaryVirtuallyWithoutMovingFromIt)
-{
-    const Appending converter;
-    const Converter<std::string, std::string>& base = converter;
-    const std::string text = "a text too long for the small string buffer";
-    std::string source = text;
-    std::string target;
-    EXPECT_TRUE(base.To(std::move(source), target));
-    EXPECT_EQ(target, text);
-    EXPECT_EQ(source, text);
-    EXPECT_STREQ(base.To(std::string(), target).ErrorMessage(), "empty");
-    EXPECT_STREQ(base.GetLastConversionError(), "");
-}
-
 struct Keys
 {
     enum class Index

@@ -99,9 +99,7 @@ TEST(Stringer, EscapesEveryTextAsTheTableOfUtf8Says)
 
 TEST(Stringer, WritesLongTexts)
 {
-    std::string plain(1 << 20, 'x');
-    EXPECT_EQ(Quoted(plain).size(), plain.size() + 2);
-    for (const auto* const piece : {"\x01", "\xFF", "\xC3\xA9", "12345678\"", "\xF0\x9F\x8E\xA5\n"})
+    for (const auto* const piece : {"x", "\x01", "\xFF", "\xC3\xA9", "12345678\"", "\xF0\x9F\x8E\xA5\n"})
     {
         std::string text;
         while (text.size() < 1 << 20)

@@ -94,25 +94,19 @@ TEST_F(Writers, WriteFullEntities)
     EXPECT_EQ(members.CloseObject().ToString(), R"({"before":1,"_type":"Node","id":""})");
 }
 
-TEST_F(Writers, LeaveOutReferencesAndProfilesThatAreEmpty)
-{
-    MediaInput channel;
-    SharedReference<MediaAsset> withoutIdentifier(std::make_shared<MediaAsset>());
-    channel.MediaAssetOnAir(withoutIdentifier);
-    channel.Metadata().Set(FullyQualifiedName("a"), nullptr);
-    EXPECT_EQ(Written(channel), R"({"_type":"MediaInput","metadata":{},"recordingStatus":"Idle"})");
-}
-
-TEST_F(Writers, EndTextsAtNulAndWriteThePlaceholderDate)
+TEST_F(Writers, WriteStrangeValues)
 {
     MediaInput channel;
     channel.Id(Identifier(std::string("a\0b", 3)));
     channel.Name(std::string("\0b", 2));
+    SharedReference<MediaAsset> withoutIdentifier(std::make_shared<MediaAsset>());
+    channel.MediaAssetOnAir(withoutIdentifier);
+    channel.Metadata().Set(FullyQualifiedName("a"), nullptr);
     channel.RecordingStatus(static_cast<RecordingStatus>(7));
     channel.LastTodTimecode(TimeCode(10, 0, 0, 0, Rate(25), false));
     channel.LastUserTimecode(TimeCode(0, false, Rate(50), false)); // the empty one but for its date
     EXPECT_EQ(Written(channel),
-              R"({"_type":"MediaInput","id":"a","name":"","recordingStatus":"Unknown",)"
+              R"({"_type":"MediaInput","id":"a","name":"","metadata":{},"recordingStatus":"Unknown",)"
               R"("lastTodTimecode":"-1-0-1-0-1T10:00:00:00@25","lastUserTimecode":"-1-0-1-0-1T00:00:00:00@50"})");
 }
 
