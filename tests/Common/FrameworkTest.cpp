@@ -1,6 +1,5 @@
-#include <Qiv/Common/Serialization/Json/FromJsonConverter.h>
 #include <Qiv/Common/Serialization/Json/KnownMembers.h>
-#include <Qiv/Common/Serialization/Json/ToJsonConverter.h>
+#include <Qiv/Common/Serialization/Result.h>
 
 #include <gtest/gtest.h>
 

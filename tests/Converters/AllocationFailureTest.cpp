@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <cstdlib>
-#include <memory>
 #include <new>
 #include <string>
 

@@ -1,7 +1,5 @@
 #include "Conversions.h"
 
-#include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryAbsolute.h>
-
 #include <gtest/gtest.h>
 
 #include <unistd.h>

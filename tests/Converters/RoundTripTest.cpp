@@ -1,4 +1,3 @@
-#include "Conversions.h"
 #include "ModelGenerator.h"
 
 #include <gtest/gtest.h>

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -46,12 +47,6 @@ bool HoldsFullCommonMembers(const MediaIO& channel)
 
 const TimeCode fullTimeCode(2016, 3, 21, 14, 5, 9, 17, Rate(25), false);
 
-struct Writers : testing::Test
-{
-    const MediaInput fullRecorder = FromText<MediaInput>(fullInput);
-    const MediaOutput fullPlayer = FromText<MediaOutput>(fullOutput);
-};
-
 template <typename Entity, typename Writer = WriterOf<Entity>>
 void ExpectText(const Entity& entity, const std::string& text, const Writer& writer = Writer())
 {
@@ -63,8 +58,10 @@ void ExpectText(const Entity& entity, const std::string& text, const Writer& wri
     EXPECT_STREQ(writer.GetLastConversionError(), "");
 }
 
-TEST_F(Writers, WriteFullEntities)
+TEST(Writers, WriteFullEntities)
 {
+    const auto fullRecorder = FromText<MediaInput>(fullInput);
+    const auto fullPlayer = FromText<MediaOutput>(fullOutput);
     EXPECT_TRUE(HoldsFullCommonMembers(fullRecorder) && HoldsFullCommonMembers(fullPlayer));
     EXPECT_TRUE(fullRecorder.RecordingStatus() == RecordingStatus::Recording &&
                 fullRecorder.LastTimePoint() == TimePoint(1458569109680000000) &&
@@ -94,7 +91,7 @@ TEST_F(Writers, WriteFullEntities)
     EXPECT_EQ(members.CloseObject().ToString(), R"({"before":1,"_type":"Node","id":""})");
 }
 
-TEST_F(Writers, WriteStrangeValues)
+TEST(Writers, WriteStrangeValues)
 {
     MediaInput channel;
     channel.Id(Identifier(std::string("a\0b", 3)));
@@ -151,7 +148,7 @@ struct StrangeBoundary : Boundary
     BoundaryOrigin claimed;
 };
 
-TEST_F(Writers, RefuseWhatIsOfNoKind)
+TEST(Writers, RefuseWhatIsOfNoKind)
 {
     StrangeChannel channel;
     channel.Name("kept");
@@ -170,76 +167,56 @@ TEST_F(Writers, RefuseWhatIsOfNoKind)
     EXPECT_EQ(Written(output), R"({"_type":"MediaOutput","playingStatus":"Idle","inBoundary":{},"outBoundary":{}})");
 }
 
-/// Writes a mark for each time point; reports a failure when it has a text for it.
-struct MarkingWriter : ToJsonConverter<TimePoint>
+/// Writes marks instead of time points, and reports a failure when it has a text for it.
+struct Injected : ToJsonConverter<TimePoint>
 {
-    explicit MarkingWriter(const char* failure = nullptr) : result(failure ? Result(failure) : Result()) {}
-    using ToJsonConverter::To;
+    Injected(bool writes, Result reported) : isWriting(writes), result(std::move(reported)) {}
     Result To(const TimePoint& timePoint, Stringer& stringer) const override
     {
-        stringer.Value(static_cast<std::int32_t>(timePoint.Nanoseconds() % 1000));
+        if (isWriting)
+            stringer.Value(static_cast<std::int32_t>(timePoint.Nanoseconds() % 1000));
         return result;
     }
+    bool isWriting;
     Result result;
 };
 
-TEST_F(Writers, UseAnInjectedTimePointWriterInTheirPlaces)
+template <typename Entity, typename Writer>
+std::string Rewritten(const std::string& text, const std::shared_ptr<Injected>& injected)
 {
-    const auto standard = [](const std::string& value) { return R"({"_type":"TimePoint","value":")" + value + "\"}"; };
-    const auto writer = std::make_shared<MarkingWriter>();
-    auto output = fullPlayer;
-    output.OutBoundary(std::make_unique<BoundaryAbsolute>(TimePoint(6)));
-
-    // Taken: the sequence's assets and the in boundary. Not: the asset on air, the current time point, the out
-    // boundary.
-    const auto markedSequence =
-        ReplacedAll(ReplacedAll(fullSequenceOutput, standard("-1"), "-1"), standard("9223372036854775807"), "807");
-    auto expected = ReplacedAll(ReplacedAll(fullOutput, fullSequenceOutput, markedSequence), standard("5"), "5");
-    expected.replace(expected.find("{\"_type\":\"BoundaryRelative"), std::string::npos,
-                     R"({"_type":"BoundaryAbsolute","timepoint":)" + standard("6") + "}}");
-    EXPECT_EQ(Written(output, MediaOutputToJsonConverter(writer)), expected);
-    const MediaIOToJsonConverter original(writer);
-    EXPECT_EQ(Written(output, original), expected);
-    EXPECT_EQ(Written(output, MediaIOToJsonConverter(original)), expected); // a copy shares it
-    EXPECT_EQ(Written(*fullPlayer.Sequence(), SequenceOutputToJsonConverter(writer)), markedSequence);
-    EXPECT_EQ(Written(fullRecorder, MediaIOToJsonConverter(writer)),
-              ReplacedAll(fullInput, standard("1458569109680000000"), "0"));
+    const Writer original(injected);
+    return Written(FromText<Entity>(text), Writer(original)); // a copy shares it
 }
 
-TEST_F(Writers, CloseWhatTheyOpenedWhenANestedWriterFails)
+TEST(Writers, DoWithInjectedTimePointWritersWhatTheirCasesSay)
 {
-    const auto writer = std::make_shared<MarkingWriter>("no time points here");
-    const std::string failure = " | no time points here";
-    const std::string asset = R"({"_type":"MediaAsset","id":"a1","name":"Goal","inPoint":-1})";
-    const std::string reference = R"({"_type":"MediaAssetRef","id":"a1","mediaAsset":)" + asset + "}";
-    const auto sequence = fullSequenceOutput.substr(0, fullSequenceOutput.find(fullAssetReference)) + reference + "}}";
-    EXPECT_EQ(Written(*fullPlayer.MediaAssetOnAir().Pointer(), MediaAssetToJsonConverter(writer)), asset + failure);
-    const SharedReferenceToJson<MediaAsset, false> references("MediaAssetRef", "mediaAsset",
-                                                              std::make_shared<MediaAssetToJsonConverter>(writer));
-    EXPECT_EQ(Written(fullPlayer.MediaAssetOnAir(), references), reference + failure);
-    EXPECT_EQ(Written(*fullPlayer.Sequence(), SequenceOutputToJsonConverter(writer)), sequence + failure);
-
-    // One that writes nothing for its key owes a value, and gets an empty object.
-    struct SilentWriter : ToJsonConverter<TimePoint>
+    const std::map<std::string, std::string (*)(const std::string&, const std::shared_ptr<Injected>&)> writers = {
+        {"MediaAsset", Rewritten<MediaAsset, MediaAssetToJsonConverter>},
+        {"SequenceOutput", Rewritten<SequenceOutput, SequenceOutputToJsonConverter>},
+        {"Boundary", Rewritten<std::unique_ptr<Boundary>, BoundaryToJsonConverter>},
+        {"MediaInput", Rewritten<MediaInput, MediaInputToJsonConverter>},
+        {"MediaOutput", Rewritten<MediaOutput, MediaOutputToJsonConverter>},
+        {"MediaIO recorder", Rewritten<MediaInput, MediaIOToJsonConverter>},
+        {"MediaIO player", Rewritten<MediaOutput, MediaIOToJsonConverter>}};
+    const auto failing = std::make_shared<Injected>(true, "no time points here");
+    const std::map<std::string, std::shared_ptr<Injected>> injected = {
+        {"MARKING", std::make_shared<Injected>(true, Result())},
+        {"FAILING", failing},
+        {"SILENT", std::make_shared<Injected>(false, "silent")}};
+    for (const auto& line : Lines("Converters/cases/writers.txt", Names(documents)))
     {
-        Result To(const TimePoint&, Stringer&) const override { return "silent"; }
-    };
-    const auto silent = std::make_shared<SilentWriter>();
-    EXPECT_EQ(Written(*fullPlayer.MediaAssetOnAir().Pointer(), MediaAssetToJsonConverter(silent)),
-              R"({"_type":"MediaAsset","id":"a1","name":"Goal","inPoint":{}} | silent)");
-    EXPECT_EQ(Written(BoundaryAbsolute(TimePoint(5)), BoundaryToJsonConverter(silent)),
-              R"({"_type":"BoundaryAbsolute","timepoint":{}})");
-    EXPECT_EQ(Written(fullRecorder, MediaInputToJsonConverter(silent)),
-              ReplacedAll(fullInput, R"({"_type":"TimePoint","value":"1458569109680000000"})", "{}"));
-
-    // A channel and a boundary do not look at these failures.
-    EXPECT_EQ(Written(BoundaryAbsolute(TimePoint(5)), BoundaryToJsonConverter(writer)),
-              R"({"_type":"BoundaryAbsolute","timepoint":5})");
-    auto expected = ReplacedAll(fullOutput, fullSequenceOutput, sequence);
-    expected = ReplacedAll(expected, R"({"_type":"TimePoint","value":"5"})", "5");
-    EXPECT_EQ(Written(fullPlayer, MediaOutputToJsonConverter(writer)), expected);
-    EXPECT_EQ(Written(fullRecorder, MediaInputToJsonConverter(writer)),
-              ReplacedAll(fullInput, R"({"_type":"TimePoint","value":"1458569109680000000"})", "0"));
+        SCOPED_TRACE(line);
+        const auto words = Split(Split(line, ": ")[0], ", ");
+        const auto sides = Split(Split(line, ": ").at(1) + " >> ", " >> ");
+        const auto writing = Split(sides[0], " !! ");
+        const auto expected = Edited(writing[0], sides[1]) + (writing.size() == 2 ? " | " + writing[1] : "");
+        EXPECT_EQ(writers.at(words[0])(writing[0], injected.at(words.at(1))), expected);
+    }
+    const SharedReferenceToJson<MediaAsset, false> references("MediaAssetRef", "mediaAsset",
+                                                              std::make_shared<MediaAssetToJsonConverter>(failing));
+    EXPECT_EQ(
+        Written(FromText<MediaOutput>(fullOutput).MediaAssetOnAir(), references),
+        R"({"_type":"MediaAssetRef","id":"a1","mediaAsset":{"_type":"MediaAsset","id":"a1","name":"Goal","inPoint":-1}} | no time points here)");
 }
 
 } // namespace

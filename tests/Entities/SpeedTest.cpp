@@ -1,4 +1,3 @@
-#include <Qiv/DataModel/Tarvonel/MediaIOs/Formatter/SpeedFormatter.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/Parser/SpeedParser.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/Speed.h>
 

@@ -1,6 +1,5 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
 
-#include <Converters/Conversions.h>
 #include <Converters/ModelGenerator.h>
 
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
