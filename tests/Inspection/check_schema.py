@@ -1,16 +1,24 @@
-"""Holds the schema against documents: check_schema.py SCHEMA BAD_DOCUMENTS PRINTER GOOD_FILE..."""
+"""Holds the schema against documents: check_schema.py SCHEMA BAD_DOCUMENTS MODEL GOOD_FILE..."""
 
 import json
-import subprocess
+import random
+import re
 import sys
 
 import jsonschema
 
-schema_file, bad_file, printer, *good_files = sys.argv[1:]
+schema_file, bad_file, model_file, *good_files = sys.argv[1:]
 with open(schema_file, encoding="utf-8") as file:
     schema = json.load(file)
 jsonschema.Draft7Validator.check_schema(schema)
 validator = jsonschema.Draft7Validator(schema)
+with open(model_file, encoding="utf-8") as file:
+    rules = {rule: text.split(" | ") for rule, _, text in (line.partition(" = ") for line in file.read().split("\n"))}
+
+
+def made(rule):
+    text = random.choice(rules[rule])
+    return re.sub(r"<(\w+)>", lambda name: made(name[1]), text if text != "NOTHING" else "")
 
 
 def faults(document):
@@ -21,7 +29,9 @@ def lines(name, text):
     return [(f"{name}:{number}", json.loads(line)) for number, line in enumerate(text.splitlines(), 1)]
 
 
-good = lines(printer, subprocess.run([printer], check=True, capture_output=True, encoding="utf-8").stdout)
+random.seed(1)
+kinds = ("MediaInput", "MediaOutput", "SequenceOutput", "Speed", "Boundary", "Node")
+good = [(kind, json.loads(made(kind))) for kind in kinds for _ in range(100)]
 for name in good_files:
     with open(name, encoding="utf-8") as file:
         good += lines(name, file.read()) if name.endswith(".ndjson") else [(name, json.load(file))]
