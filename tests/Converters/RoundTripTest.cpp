@@ -68,7 +68,8 @@ void ExpectEachMemberCounts(const std::string& full, std::vector<std::string> ot
     for (const auto& left : entities)
     {
         for (const auto& right : entities)
-            EXPECT_EQ(left == right, &left == &right) << others[&left - &entities[0]] << others[&right - &entities[0]];
+            EXPECT_TRUE((left == right) == (&left == &right) && (left != right) == (&left != &right))
+                << others[&left - &entities[0]] << others[&right - &entities[0]];
         Entity copy(left);
         EXPECT_TRUE(copy == left && Entity(std::move(copy)) == left) << others[&left - &entities[0]];
     }
@@ -76,6 +77,7 @@ void ExpectEachMemberCounts(const std::string& full, std::vector<std::string> ot
 
 TEST(Entities, AreEqualMemberByMember)
 {
+    ExpectEachMemberCounts<MediaAsset>(fullAsset);
     ExpectEachMemberCounts<MediaInput>(fullInput);
     ExpectEachMemberCounts<MediaOutput>(fullOutput);
     ExpectEachMemberCounts<Node>(fullNode);

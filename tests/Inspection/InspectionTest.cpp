@@ -295,7 +295,7 @@ TEST(ReadText, TellsWhatIsWrongAndWhere)
         EXPECT_EQ(Written(channel), fullOutput);
     }
     JsonObject json;
-    EXPECT_TRUE(ParseText(std::string(100, '[') + std::string(100, ']'), json));
+    EXPECT_TRUE(ParseText(std::string(100, '[') + std::string(99, ']') + ",[]]", json));
 }
 
 } // namespace Qiv::Tests
