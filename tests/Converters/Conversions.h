@@ -35,6 +35,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 /// What the tests of the converters share: strict parsing, writing in one line, and full documents.
 namespace Qiv::Tests
@@ -67,27 +68,22 @@ inline JsonObject Parse(const std::string& text)
     return json;
 }
 
-template <typename ReaderType, typename WriterType>
-struct Converters
-{
-    using Reader = ReaderType;
-    using Writer = WriterType;
-};
-Converters<JsonToTimePointConverter, TimePointToJsonObjectConverter> ConvertersOf(const TimePoint&);
-Converters<JsonToMediaAssetConverter, MediaAssetToJsonConverter> ConvertersOf(const MediaAsset&);
-Converters<JsonToSequenceConverter, SequenceToJsonConverter> ConvertersOf(const Sequence&);
-Converters<JsonToSpeedConverter, SpeedToJsonConverter> ConvertersOf(const Speed&);
-Converters<JsonToBoundaryConverter, BoundaryToJsonConverter> ConvertersOf(const Boundary&);
-Converters<JsonToBoundaryConverter, BoundaryToJsonConverter> ConvertersOf(const std::unique_ptr<Boundary>&);
-Converters<JsonToSequenceOutputConverter, SequenceOutputToJsonConverter> ConvertersOf(const SequenceOutput&);
-Converters<JsonToMetadataProfileDictionaryConverter, MetadataProfileDictionaryToJsonConverter>
+/// The reader and the writer of an entity.
+std::pair<JsonToTimePointConverter, TimePointToJsonObjectConverter> ConvertersOf(const TimePoint&);
+std::pair<JsonToMediaAssetConverter, MediaAssetToJsonConverter> ConvertersOf(const MediaAsset&);
+std::pair<JsonToSequenceConverter, SequenceToJsonConverter> ConvertersOf(const Sequence&);
+std::pair<JsonToSpeedConverter, SpeedToJsonConverter> ConvertersOf(const Speed&);
+std::pair<JsonToBoundaryConverter, BoundaryToJsonConverter> ConvertersOf(const Boundary&);
+std::pair<JsonToBoundaryConverter, BoundaryToJsonConverter> ConvertersOf(const std::unique_ptr<Boundary>&);
+std::pair<JsonToSequenceOutputConverter, SequenceOutputToJsonConverter> ConvertersOf(const SequenceOutput&);
+std::pair<JsonToMetadataProfileDictionaryConverter, MetadataProfileDictionaryToJsonConverter>
 ConvertersOf(const MetadataProfileDictionary&);
-Converters<JsonToNodeConverter, NodeToJsonConverter> ConvertersOf(const Node&);
-Converters<JsonToMediaIOConverter, MediaIOToJsonConverter> ConvertersOf(const MediaIO&);
+std::pair<JsonToNodeConverter, NodeToJsonConverter> ConvertersOf(const Node&);
+std::pair<JsonToMediaIOConverter, MediaIOToJsonConverter> ConvertersOf(const MediaIO&);
 template <typename Entity>
-using ReaderOf = typename decltype(ConvertersOf(std::declval<const Entity&>()))::Reader;
+using ReaderOf = typename decltype(ConvertersOf(std::declval<const Entity&>()))::first_type;
 template <typename Entity>
-using WriterOf = typename decltype(ConvertersOf(std::declval<const Entity&>()))::Writer;
+using WriterOf = typename decltype(ConvertersOf(std::declval<const Entity&>()))::second_type;
 
 /// The text that a writer makes of an entity; a failure stands behind it.
 template <typename Entity, typename Writer = WriterOf<Entity>>

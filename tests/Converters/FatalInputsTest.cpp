@@ -31,17 +31,11 @@ void ReadAny(const std::string& text)
     static_cast<void>(Reader().To(Parse(text), entity));
 }
 
-class FatalInputsDeathTest : public testing::Test
+TEST(FatalInputsDeathTest, EndInTerminate)
 {
-protected:
-    void SetUp() override { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
-};
-
-const std::string absoluteOrigin = R"({"_type":"BoundaryRelative","origin":"Absolute"})";
-
-TEST_F(FatalInputsDeathTest, EndInTerminate)
-{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
     const testing::KilledBySignal dies(SIGABRT);
+    const std::string absoluteOrigin = R"({"_type":"BoundaryRelative","origin":"Absolute"})";
     const std::string badOrigin = "terminat.*: +Bad origin for BoundaryRelative\n";
     EXPECT_EXIT((ReadAny<JsonToBoundaryConverter, std::unique_ptr<Boundary>>(absoluteOrigin)), dies, badOrigin);
     for (const std::string key : {"inBoundary", "outBoundary"})
@@ -58,8 +52,9 @@ TEST_F(FatalInputsDeathTest, EndInTerminate)
 }
 
 // In a process of its own, where nobody has written a player channel before.
-TEST_F(FatalInputsDeathTest, TheFirstPlayersTimePointWriterIsKept)
+TEST(FatalInputsDeathTest, TheFirstPlayersTimePointWriterIsKept)
 {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
     const auto isKept = []
     {
         std::weak_ptr<TimePointToJsonObjectConverter> kept[2];

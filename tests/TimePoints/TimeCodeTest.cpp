@@ -88,9 +88,7 @@ std::string PrintFields(const TimeCode& t)
                  t.Rate().Numerator());
 }
 
-class LabelsOfADay : public testing::TestWithParam<int>
-{
-};
+using LabelsOfADay = testing::TestWithParam<int>;
 
 TEST_P(LabelsOfADay, AreConsecutiveSamplesAndFormatBackToThemselves)
 {
