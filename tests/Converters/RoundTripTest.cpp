@@ -65,13 +65,14 @@ void ExpectEachMemberCounts(const std::string& full, std::vector<std::string> ot
     std::vector<Entity> entities(others.size());
     for (std::size_t i = 0; i < others.size(); ++i)
         Read(others[i], entities[i]);
-    for (const auto& left : entities)
+    for (std::size_t left = 0; left < entities.size(); ++left)
     {
-        for (const auto& right : entities)
-            EXPECT_TRUE((left == right) == (&left == &right) && (left != right) == (&left != &right))
-                << others[&left - &entities[0]] << others[&right - &entities[0]];
-        Entity copy(left);
-        EXPECT_TRUE(copy == left && Entity(std::move(copy)) == left) << others[&left - &entities[0]];
+        for (std::size_t right = 0; right < entities.size(); ++right)
+            EXPECT_TRUE((entities[left] == entities[right]) == (left == right) &&
+                        (entities[left] != entities[right]) == (left != right))
+                << others[left] << others[right];
+        Entity copy(entities[left]);
+        EXPECT_TRUE(copy == entities[left] && Entity(std::move(copy)) == entities[left]) << others[left];
     }
 }
 
