@@ -47,8 +47,8 @@ struct Keys
 TEST(KnownMembers, FindsWhatALookUpPerKeyFinds)
 {
     // Every subset of the known keys, of their neighbours in the order, and of null members.
-    const std::string candidates[] = {"_type", "a",   "ab", "b", "z\xC3\xA9", "", "A", "aa", std::string("a\0", 2),
-                                      "z",     "\xFF"};
+    const std::string candidates[] = {"_type", "a",    "ab",   "b", "z\xC3\xA9", "", "A", "aa", std::string("a\0", 2),
+                                      "z",     "\xFF", "_tape"};
     for (unsigned subset = 0; subset < 1U << std::size(candidates); ++subset)
     {
         JsonObject json(::Json::objectValue);
