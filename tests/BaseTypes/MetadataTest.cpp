@@ -102,6 +102,9 @@ TEST(MetadataProfileDictionary, SharesProfilesWithCopiesButNotWithClones)
 
     deepCopy.Set(Name("null"), MakeProfile("null", {}));
     EXPECT_TRUE(deepCopy != clone && clone != deepCopy);
+    deepCopy.Erase(Name("a"));
+    deepCopy.Set(MakeProfile("other", {}));
+    EXPECT_TRUE(deepCopy != clone);
 }
 
 TEST(MetadataProfileDictionary, FindsStoresAndErasesByName)

@@ -295,6 +295,8 @@ TEST(ReadText, TellsWhatIsWrongAndWhere)
         EXPECT_EQ(Written(channel), fullOutput);
     }
     JsonObject json;
+    // What stands behind the text does not matter.
+    EXPECT_EQ(ParseText(std::string_view("{\r\n").substr(0, 2), json).Position().column, 1U);
     EXPECT_TRUE(ParseText(std::string(100, '[') + std::string(99, ']') + ",[]]", json));
 }
 

@@ -81,8 +81,9 @@ class Tool(unittest.TestCase):
         self.assertEqual(run("--version")[0], 0)
         message = "tarvonel-json: standard output: "
         with open("/dev/full", "w") as full:
-            for command, expected in (("convert node.json", 1), ("--help", 1), ("check --output=json node.json", 2)):
-                status, _, error = run(*command.split(), stdout=full)
+            for command, expected in (("convert node.json", 1), ("convert --ndjson", 1), ("--help", 1),
+                                      ("check --output=json node.json", 2)):
+                status, _, error = run(*command.split(), stdout=full, text=999 * (NODE + "\n"))
                 self.assertEqual((status, error), (expected, message + "No space left on device\n"))
         reader, writer = os.pipe()
         os.close(reader)
