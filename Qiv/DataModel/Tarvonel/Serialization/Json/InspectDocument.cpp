@@ -50,15 +50,15 @@ void ReportFatal(Inspection& inspection, const JsonObject& value, std::string_vi
                       Quote(TextOf(value)).append(" ").append(why).append(", which ends the process"), exceptionText);
 }
 
-template <typename Enumeration>
+template <typename Enumeration, std::int32_t first = 0>
 void Enumerator(Inspection& inspection, const JsonObject& value)
 {
     const auto textsOfAll = []
     {
         std::string texts;
         Enumeration enumerator{};
-        for (std::int32_t i = 0; FromText(ToString(Enumeration{i}), enumerator) && enumerator == Enumeration{i}; ++i)
-            texts.append(i == 0 ? "" : ", ").append(ToString(enumerator));
+        for (auto i = first; FromText(ToString(Enumeration{i}), enumerator) && enumerator == Enumeration{i}; ++i)
+            texts.append(i == first ? "" : ", ").append(ToString(enumerator));
         return texts;
     };
     Enumeration enumerator{};
@@ -71,7 +71,7 @@ void OriginOfRelative(Inspection& inspection, const JsonObject& value)
     if (TextOf(value) == ToString(BoundaryOrigin::Absolute))
         ReportFatal(inspection, value, "is the origin of a relative boundary", "Bad origin for BoundaryRelative");
     else
-        Enumerator<BoundaryOrigin>(inspection, value);
+        Enumerator<BoundaryOrigin, 1>(inspection, value); // not advising Absolute, which comes first
 }
 
 void TimeCodeText(Inspection& inspection, const JsonObject& value)
