@@ -17,7 +17,7 @@ namespace Qiv::Common::Serialization::Json
 /// True for what readers call "empty": null, any value that is not an object, and an object without members.
 inline bool IsEmptyObject(const JsonObject& json) noexcept
 {
-    return json.type() != ::Json::objectValue || json.size() == 0;
+    return json.type() != ::Json::objectValue || json.empty();
 }
 
 /// The member itself unless it is absent or JSON's null. Asks for the type, since each of jsoncpp's `is...` is two
