@@ -1,5 +1,5 @@
-// Reading from nlohmann's tree, with from_json for each entity as its users write it: an optional member is found once
-// and taken with get<T>(), which throws for a wrong type.
+// Reading from nlohmann's tree, with from_json for each entity: an optional member is found once and taken with
+// get<T>(), which throws for a wrong type; a text that is only parsed is not copied.
 
 #include "Peers.h"
 
@@ -43,7 +43,7 @@ void ExpectType(const json& object, const char* type)
 std::int64_t NanosecondsOf(const json& object, const char* type)
 {
     ExpectType(object, type);
-    return QivDurationParser().Parse(object.at("value").get<std::string>()).Nanoseconds();
+    return QivDurationParser().Parse(object.at("value").get_ref<const std::string&>()).Nanoseconds();
 }
 
 } // namespace
@@ -80,7 +80,7 @@ struct adl_serializer<TimeCode>
 {
     static void from_json(const json& text, TimeCode& timeCode)
     {
-        timeCode = QivTimeCodeParser().Parse(text.get<std::string>());
+        timeCode = QivTimeCodeParser().Parse(text.get_ref<const std::string&>());
     }
 };
 

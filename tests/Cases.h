@@ -69,6 +69,7 @@ inline std::vector<std::string> Expanded(const std::string& line)
 inline std::vector<std::string> Lines(const std::string& file, Names& names)
 {
     std::ifstream stream(QIV_TESTS_FOLDER "/" + file);
+    const auto namesBefore = names.size();
     std::vector<std::string> lines;
     for (std::string line; std::getline(stream, line);)
     {
@@ -80,8 +81,8 @@ inline std::vector<std::string> Lines(const std::string& file, Names& names)
             for (const auto& each : Expanded(line))
                 lines.push_back(each);
     }
-    if (!stream.eof())
-        throw std::runtime_error("cannot read " + file);
+    if (!stream.eof() || (lines.empty() && names.size() == namesBefore))
+        throw std::runtime_error("cannot read, or nothing in " + file);
     return lines;
 }
 

@@ -26,9 +26,16 @@ TEST(Result, IsAFailureExactlyWhenAMessageIsGiven)
         EXPECT_FALSE(result || copy);
         EXPECT_STREQ(copy.ErrorMessage(), message);
         EXPECT_STREQ(result.ErrorMessage(), message);
+        Result assigned;
+        assigned = result;
+        const auto& self = assigned;
+        assigned = self;
+        EXPECT_TRUE(!assigned && std::string(assigned.ErrorMessage()) == message);
+        const Result success;
+        assigned = success;
+        EXPECT_TRUE(assigned && Result(success));
+        EXPECT_STREQ(assigned.ErrorMessage(), "");
     }
-    EXPECT_TRUE(Result());
-    EXPECT_STREQ(Result().ErrorMessage(), "");
 }
 
 struct Keys
@@ -46,7 +53,7 @@ struct Keys
 
 TEST(KnownMembers, FindsWhatALookUpPerKeyFinds)
 {
-    // Every subset of the known keys, of their neighbours in the order, and of null members.
+    // Every subset of the known keys, of texts like them, and of null members.
     const std::string candidates[] = {"_type", "a",    "ab",   "b", "z\xC3\xA9", "", "A", "aa", std::string("a\0", 2),
                                       "z",     "\xFF", "_tape"};
     for (unsigned subset = 0; subset < 1U << std::size(candidates); ++subset)

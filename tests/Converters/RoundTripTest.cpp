@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -81,7 +82,8 @@ TEST(Entities, AreEqualMemberByMember)
     ExpectEachMemberCounts<MediaAsset>(fullAsset);
     ExpectEachMemberCounts<MediaInput>(fullInput);
     ExpectEachMemberCounts<MediaOutput>(fullOutput);
-    ExpectEachMemberCounts<Node>(fullNode);
+    ExpectEachMemberCounts<Node>(fullNode, {Edited(fullNode, R"("10.0.1.2","10.0.1.1" => "10.0.1.1","10.0.1.2")"),
+                                            Edited(fullNode, R"("n1" => "N1")")});
     // The next block of the full document is an empty one.
     const auto sequence = ReplacedAll(fullSequenceOutput, Document("$NOBLOCK"), R"({"id":"b2"})");
     ExpectEachMemberCounts<SequenceOutput>(sequence, {R"({"editMode":false})", R"({"assetBlockOnAir":{"id":"b1"}})",

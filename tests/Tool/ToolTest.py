@@ -29,7 +29,7 @@ class Tool(unittest.TestCase):
         with self.subTest(arguments=arguments, text=text[:80]):
             result = run(*arguments, text=text)
             self.assertEqual((result[0], result[1]), (status, out), result)
-            self.assertRegex(result[2], re.compile(r"\A" + error + r"\n?\Z", re.DOTALL))
+            self.assertRegex(result[2], re.compile(r"\A" + error + r"\n?\Z"))
 
     def test_WritesEveryDocumentInItsCanonicalForm(self):
         files = sorted(file.name for file in DOCUMENTS.iterdir() if file.is_file())

@@ -19,8 +19,8 @@ bool VisitAll(Dictionary& dictionary, const Visit& visit)
 
 } // namespace
 
-GenericMetadataProfile::GenericMetadataProfile(const BaseTypes::FullyQualifiedName& fullyQualifiedName)
-    : fullyQualifiedName_(fullyQualifiedName)
+GenericMetadataProfile::GenericMetadataProfile(BaseTypes::FullyQualifiedName fullyQualifiedName)
+    : fullyQualifiedName_(std::move(fullyQualifiedName))
 {
 }
 

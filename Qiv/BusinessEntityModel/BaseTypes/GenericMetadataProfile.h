@@ -21,7 +21,7 @@ public:
     using Dictionary = std::map<std::string, std::string>;
 
     GenericMetadataProfile() = default;
-    explicit GenericMetadataProfile(const BaseTypes::FullyQualifiedName& fullyQualifiedName);
+    explicit GenericMetadataProfile(BaseTypes::FullyQualifiedName fullyQualifiedName);
     GenericMetadataProfile(const GenericMetadataProfile&) = default;
     GenericMetadataProfile(GenericMetadataProfile&&) = default;
     GenericMetadataProfile& operator=(const GenericMetadataProfile&) = default;

@@ -48,7 +48,7 @@ void MetadataProfileDictionary::Set(const std::shared_ptr<MetadataProfile>& prof
 {
     if (profile == nullptr)
         throw std::invalid_argument("MetadataProfileDictionary::Set: null profile");
-    Set(profile->FullyQualifiedName(), profile);
+    values_.insert_or_assign(values_.end(), profile->FullyQualifiedName(), profile); // see the other Set
 }
 
 void MetadataProfileDictionary::Set(const FullyQualifiedName& name, const std::shared_ptr<MetadataProfile>& profile)

@@ -5,11 +5,9 @@
 namespace Qiv::Common::Serialization::Json
 {
 
-Result CheckType(std::optional<std::string_view> type, std::string_view expected)
+Result InvalidType(std::string_view type, std::string_view expected)
 {
-    if (!type || *type == expected)
-        return {};
-    return std::string("Invalid type ").append(*type).append(" : ").append(expected).append(" expected");
+    return std::string("Invalid type ").append(type).append(" : ").append(expected).append(" expected");
 }
 
 std::size_t FindMembers(const JsonObject& json, const KeyTable& keys, const JsonObject** members) noexcept
