@@ -1,5 +1,7 @@
 #include <Qiv/BusinessEntityModel/BaseTypes/GenericMetadataProfile.h>
 
+#include <utility>
+
 namespace Qiv::BusinessEntityModel::BaseTypes
 {
 
