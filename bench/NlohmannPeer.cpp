@@ -19,7 +19,6 @@ using namespace Qiv::DataModel::Tarvonel::MediaIOs;
 using namespace Qiv::TimePoints;
 using Qiv::BusinessEntityModel::Edits::Sequence;
 using Qiv::DataModel::MediaAssets::MediaAsset;
-using Qiv::DataModel::MediaAssets::TimecodePrimary;
 using Qiv::DataModel::MediaAssets::ToTimecodePrimary;
 
 namespace

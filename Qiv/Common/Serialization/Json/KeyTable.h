@@ -12,8 +12,7 @@ namespace Qiv::Common::Serialization::Json
 /// Tells which key of a small set a text may be: by its length and its first and last character, which have a place of
 /// their own for each key of the set. Other texts share these places, so the key there is still to be compared.
 ///
-/// Neither a loop nor an order depends on the text: in a walk over many short keys, mispredicted branches cost more
-/// than the work itself.
+/// Neither a loop nor an order depends on the text, so that a walk over keys of many lengths mispredicts few branches.
 class KeyTable
 {
 public:

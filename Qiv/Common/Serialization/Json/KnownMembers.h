@@ -75,8 +75,8 @@ inline std::optional<bool> IfBool(const JsonObject* member) noexcept
 /// The failure "Invalid type X : Y expected".
 [[gnu::cold]] QIV_COMMON_SERIALIZATION_EXPORT Result InvalidType(std::string_view type, std::string_view expected);
 
-/// That failure when the text X of the member "_type" is another one than the expected Y;
-/// success when it is that text, or nothing because the member is no text or absent.
+/// That failure when the text of the member "_type" is another one than the expected; success when it is that text, or
+/// nothing because the member is no text or absent.
 inline Result CheckType(std::optional<std::string_view> type, std::string_view expected)
 {
     return !type || *type == expected ? Result() : InvalidType(*type, expected);
