@@ -7,6 +7,7 @@
 #include <string>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace Qiv::Common::Serialization::Json
 {
@@ -72,6 +73,38 @@ TEST(KnownMembers, FindsWhatALookUpPerKeyFinds)
             ASSERT_EQ(member != nullptr, json.isMember(candidates[i]) && !json[candidates[i]].isNull())
                 << json.toStyledString();
         }
+    }
+}
+
+TEST(KeyTable, ComparesEveryCharacterAndReadsNoFurther)
+{
+    static constexpr std::array<std::string_view, 12> keys{"a",
+                                                           "id",
+                                                           "xyz",
+                                                           "name",
+                                                           "_type",
+                                                           "origin",
+                                                           "inPoint",
+                                                           "outPoint",
+                                                           "totalCapacity",
+                                                           "todTimecodeOnAir",
+                                                           "userTimecodeOnAir",
+                                                           "currentTimePointOnAir"};
+    static constexpr KeyTable table(keys);
+    for (std::size_t i = 0; i < keys.size(); ++i)
+    {
+        // Of its own memory, which ends where the text does.
+        std::vector<char> text(keys[i].begin(), keys[i].end());
+        const auto find = [&table = table, &text] { return table.Find({text.data(), text.size()}); };
+        EXPECT_EQ(find(), i);
+        for (auto& character : text)
+        {
+            character ^= 1;
+            EXPECT_EQ(find(), KeyTable::notFound) << keys[i];
+            character ^= 1;
+        }
+        text.push_back(text.back());
+        EXPECT_EQ(find(), KeyTable::notFound) << keys[i];
     }
 }
 

@@ -3,19 +3,22 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <stdexcept>
 #include <string_view>
 
 namespace Qiv::Common::Serialization::Json
 {
 
-/// Tells which key of a small set a text may be: by its length and its first and last character, which have a place of
-/// their own for each key of the set. Other texts share these places, so the key there is still to be compared.
+/// Finds a text in a small set of keys. The text's length and its first and last character lead to the only key that
+/// can be equal to it, since no two keys of the set share the place that these have in the table.
 ///
 /// Neither a loop nor an order depends on the text, so that a walk over keys of many lengths mispredicts few branches.
 class KeyTable
 {
 public:
+    static constexpr std::size_t notFound = SIZE_MAX;
+
     /// The keys must outlive the table. Fails to compile as a constant when it finds no places without a
     /// collision: when two keys are alike in all three, and by chance for more than some 28 keys.
     template <std::size_t count>
@@ -23,21 +26,29 @@ public:
     {
         static_assert(count <= placeCount);
         while (!Place(count))
-            if (++weights_ == placeCount * placeCount)
-                throw std::invalid_argument("no places without a collision for these keys");
+            if (++lastWeight_ == placeCount)
+            {
+                lastWeight_ = 0;
+                if (++firstWeight_ == placeCount)
+                    throw std::invalid_argument("no places without a collision for these keys");
+            }
     }
 
-    /// The only key that can be equal to `text`.
-    std::size_t Candidate(std::string_view text) const noexcept { return text.empty() ? 0 : places_[PlaceOf(text)]; }
-    std::string_view Key(std::size_t index) const noexcept { return keys_[index]; }
+    /// The index of the key that is equal to `text`, or `notFound`.
+    std::size_t Find(std::string_view text) const noexcept
+    {
+        const std::size_t index = text.empty() ? 0 : places_[PlaceOf(text)];
+        const auto key = keys_[index];
+        return key.size() == text.size() && AreEqual(key.data(), text.data(), key.size()) ? index : notFound;
+    }
 
 private:
     static constexpr std::size_t placeCount = 64;
 
     constexpr std::size_t PlaceOf(std::string_view text) const noexcept
     {
-        return (text.size() + static_cast<unsigned char>(text.front()) * (weights_ / placeCount) +
-                static_cast<unsigned char>(text.back()) * (weights_ % placeCount)) %
+        return (text.size() + static_cast<unsigned char>(text.front()) * firstWeight_ +
+                static_cast<unsigned char>(text.back()) * lastWeight_) %
                placeCount;
     }
 
@@ -56,8 +67,36 @@ private:
         return true;
     }
 
+    template <typename Word>
+    static bool AreEqualAt(const char* left, const char* right, std::size_t offset) noexcept
+    {
+        Word leftWord;
+        Word rightWord;
+        std::memcpy(&leftWord, left + offset, sizeof(Word));
+        std::memcpy(&rightWord, right + offset, sizeof(Word));
+        return leftWord == rightWord;
+    }
+
+    // What `std::memcmp` tells, for the short texts that keys are: there, the call alone takes longer. The last word
+    // overlaps the one before.
+    static bool AreEqual(const char* left, const char* right, std::size_t size) noexcept
+    {
+        using Short = std::uint32_t;
+        using Long = std::uint64_t;
+        if (size < sizeof(Short))
+            return size == 0 ||
+                   (left[0] == right[0] && left[size / 2] == right[size / 2] && left[size - 1] == right[size - 1]);
+        if (size < sizeof(Long))
+            return AreEqualAt<Short>(left, right, 0) && AreEqualAt<Short>(left, right, size - sizeof(Short));
+        for (std::size_t offset = 0; offset < size - sizeof(Long); offset += sizeof(Long))
+            if (!AreEqualAt<Long>(left, right, offset))
+                return false;
+        return AreEqualAt<Long>(left, right, size - sizeof(Long));
+    }
+
     const std::string_view* keys_;
-    std::size_t weights_ = 0; // of the first character and of the last one
+    std::size_t firstWeight_ = 0;
+    std::size_t lastWeight_ = 0;
     std::array<std::uint8_t, placeCount> places_{};
 };
 

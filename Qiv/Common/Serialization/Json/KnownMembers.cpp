@@ -23,9 +23,8 @@ std::size_t FindMembers(const JsonObject& json, const KeyTable& keys, const Json
         if (nameBegin == nullptr) // an array
             return 0;
         const std::string_view name(nameBegin, static_cast<std::size_t>(nameEnd - nameBegin));
-        const auto candidate = keys.Candidate(name);
-        if (name == keys.Key(candidate))
-            members[candidate] = &*member;
+        if (const auto index = keys.Find(name); index != KeyTable::notFound)
+            members[index] = &*member;
         if (--left == 0)
             return size;
     }

@@ -63,7 +63,13 @@ inline std::string_view TextOf(const JsonObject& string) noexcept
 /// The value when jsoncpp calls it an integer of 32 bits, `isInt()` (so 3.0 is one).
 inline std::optional<std::int32_t> IfInt(const JsonObject* member) noexcept
 {
-    return member != nullptr && member->isInt() ? std::optional<std::int32_t>(member->asInt()) : std::nullopt;
+    if (member == nullptr)
+        return std::nullopt;
+    if (member->type() != ::Json::intValue) // `asInt` asks `isInt` once more
+        return member->isInt() ? std::optional<std::int32_t>(member->asInt()) : std::nullopt;
+    const auto value = member->asLargestInt();
+    const auto narrow = static_cast<std::int32_t>(value);
+    return narrow == value ? std::optional<std::int32_t>(narrow) : std::nullopt;
 }
 
 /// The value of `true` or `false`; numbers are none.
