@@ -42,10 +42,10 @@ Result JsonToMediaAssetConverter::To(const JsonObject& json, MediaAsset& mediaAs
         return result;
 
     if (const auto id = members.Text(Key::Id))
-        mediaAsset.Id(Identifier(std::string(*id)));
+        mediaAsset.Id(Identifier(*id));
 
     if (const auto name = members.Text(Key::Name))
-        mediaAsset.Name(Utf8String(std::string(*name)));
+        mediaAsset.Name(Utf8String(*name));
 
     const JsonToTimePointConverter timePointConverter;
     if (const auto* inPoint = members.Object(Key::InPoint))

@@ -2,13 +2,11 @@
 
 #include <Qiv/BusinessEntityModel/BaseTypes/SharedReference.h>
 #include <Qiv/Common/Serialization/Json/FromJsonConverter.h>
-#include <Qiv/Common/Serialization/Json/KnownMembers.h>
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/Export.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/ReferenceForm.h>
 
-#include <array>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <utility>
 
 namespace Qiv::DataModel::MediaAssets::Serialization::Json
@@ -34,16 +32,6 @@ class QIV_DATAMODEL_MEDIAASSETS_SERIALIZATION_JSON_EXPORT JsonToSharedReference
     using JsonObject = Common::Serialization::Json::JsonObject;
     using Result = Common::Serialization::Result;
 
-    struct Keys
-    {
-        enum class Index
-        {
-            Type,
-            Id
-        };
-        static constexpr std::array<std::string_view, 2> names{"_type", "id"};
-    };
-
 public:
     using TargetReader = Common::Serialization::Json::FromJsonConverter<T>;
 
@@ -61,31 +49,20 @@ public:
     using Base::To;
     Result To(const JsonObject& json, Reference& reference) const override
     {
-        using Common::Serialization::Json::FindMember;
-        using Common::Serialization::Json::IfText;
-        using Common::Serialization::Json::IfType;
-
-        const Common::Serialization::Json::KnownMembers<Keys> members(json);
-        const auto* const type = members.Any(Keys::Index::Type);
-        if (IfText(type).value_or(typeProperty_) != typeProperty_)
-            return "Bad _type";
-
-        const auto* const id = members.Any(Keys::Index::Id);
-        if (id != nullptr && (members.Size() == 1 || (members.Size() == 2 && type != nullptr)))
+        ReferenceForm form;
+        if (auto result = ReadReferenceForm(json, typeProperty_, embeddedProperty_, form); !result)
+            return result;
+        if (form.embedded == nullptr)
         {
-            if (id->type() == ::Json::arrayValue || id->type() == ::Json::objectValue)
-                return "Bad format";
-            reference = Reference(BusinessEntityModel::BaseTypes::Identifier(id->asString()));
+            reference = std::move(form.id);
             return {};
         }
-
-        const auto* const embedded = FindMember(json, embeddedProperty_);
-        if (IfType(embedded, ::Json::objectValue) == nullptr || fromJsonConverter_ == nullptr)
-            return "Bad format";
+        if (fromJsonConverter_ == nullptr)
+            return BadReferenceFormat();
         auto object = std::make_shared<T>();
-        if (auto result = fromJsonConverter_->To(*embedded, *object); !result)
+        if (auto result = fromJsonConverter_->To(*form.embedded, *object); !result)
             return result;
-        reference = std::move(object);
+        reference.Pointer(std::move(object));
         return {};
     }
 

@@ -36,13 +36,9 @@ std::optional<std::int64_t> WholeNumber(std::string_view text) noexcept
     return error == std::errc() && stop == end ? std::optional<std::int64_t>(number) : std::nullopt;
 }
 
-std::optional<std::int64_t> Nanoseconds(const JsonObject* value)
+std::optional<std::int64_t> WholeNumber(const JsonObject* number)
 {
-    if (value == nullptr)
-        return std::nullopt;
-    if (value->isString())
-        return WholeNumber(TextOf(*value));
-    return value->isInt64() ? std::optional<std::int64_t>(value->asInt64()) : std::nullopt;
+    return number != nullptr && number->isInt64() ? std::optional<std::int64_t>(number->asInt64()) : std::nullopt;
 }
 
 } // namespace
@@ -59,7 +55,8 @@ Result JsonToTimePointConverter::To(const JsonObject& json, TimePoint& timePoint
     if (auto result = CheckType(members.Text(Key::Type), "TimePoint"); !result)
         return result;
 
-    const auto nanoseconds = Nanoseconds(members.Any(Key::Value));
+    const auto text = members.Text(Key::Value);
+    const auto nanoseconds = text ? WholeNumber(*text) : WholeNumber(members.Any(Key::Value));
     if (!nanoseconds)
         return "Invalid TimePoint value";
     timePoint = TimePoint(*nanoseconds);
