@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Qiv::BusinessEntityModel::BaseTypes
@@ -17,6 +18,7 @@ class QIV_BUSINESSENTITYMODEL_BASETYPES_EXPORT FullyQualifiedName
 public:
     FullyQualifiedName() = default;
     FullyQualifiedName(std::string value) noexcept : value_(std::move(value)) {}
+    explicit FullyQualifiedName(std::string_view value) : value_(value) {}
     /// Null-terminated text.
     FullyQualifiedName(const char* value) : value_(value) {}
 

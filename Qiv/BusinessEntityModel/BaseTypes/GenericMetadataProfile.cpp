@@ -80,10 +80,13 @@ bool GenericMetadataProfile::Erase(const std::string& key)
     return dictionary_.erase(key) != 0;
 }
 
-void GenericMetadataProfile::Set(std::string key, std::string value)
+void GenericMetadataProfile::Set(std::string_view key, std::string_view value)
 {
     // Keys mostly come in order, since readers find them so: then this is the place at once.
-    dictionary_.insert_or_assign(dictionary_.end(), std::move(key), std::move(value));
+    const auto size = dictionary_.size();
+    const auto entry = dictionary_.emplace_hint(dictionary_.end(), key, value);
+    if (dictionary_.size() == size)
+        entry->second = value;
 }
 
 std::string GenericMetadataProfile::Get(const std::string& key) const

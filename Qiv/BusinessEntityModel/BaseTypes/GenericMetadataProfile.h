@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Qiv::BusinessEntityModel::BaseTypes
@@ -48,7 +49,7 @@ public:
     bool Contains(const std::string& key) const;
     /// Removes `key` and its value; false when the profile does not have it.
     bool Erase(const std::string& key);
-    void Set(std::string key, std::string value);
+    void Set(std::string_view key, std::string_view value);
     /// The value of `key`; empty when the profile does not have it.
     std::string Get(const std::string& key) const;
     /// The value of `key`, which is inserted with an empty value when the profile does not have it.

@@ -3,6 +3,7 @@
 #include <Qiv/BusinessEntityModel/BaseTypes/Export.h>
 
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Qiv::BusinessEntityModel::BaseTypes
@@ -16,6 +17,7 @@ class QIV_BUSINESSENTITYMODEL_BASETYPES_EXPORT Identifier
 public:
     Identifier() = default;
     Identifier(std::string value) noexcept : value_(std::move(value)) {}
+    explicit Identifier(std::string_view value) : value_(value) {}
     /// Null-terminated text.
     Identifier(const char* value) : value_(value) {}
 

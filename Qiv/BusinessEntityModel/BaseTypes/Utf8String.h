@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Qiv::BusinessEntityModel::BaseTypes
@@ -20,6 +21,7 @@ public:
     Utf8String(const char* text, std::size_t length) : std::string(text != nullptr ? std::string(text, length) : "") {}
     Utf8String(const std::string& text) : std::string(text) {}
     Utf8String(std::string&& text) noexcept : std::string(std::move(text)) {}
+    explicit Utf8String(std::string_view text) : std::string(text) {}
     Utf8String(const std::uint8_t* bytes) : Utf8String(reinterpret_cast<const char*>(bytes)) {}
     Utf8String(const std::uint8_t* bytes, std::size_t length) : Utf8String(reinterpret_cast<const char*>(bytes), length)
     {

@@ -71,6 +71,10 @@ public:
     {
         sequenceOnAir_ = sequence;
     }
+    void SequenceOnAir(BusinessEntityModel::BaseTypes::SharedReference<BusinessEntityModel::Edits::Sequence>&& sequence)
+    {
+        sequenceOnAir_ = std::move(sequence);
+    }
 
     const AssetBlockOutput& AssetBlockOnAir() const noexcept { return assetBlockOnAir_; }
     void AssetBlockOnAir(const AssetBlockOutput& block) { assetBlockOnAir_ = block; }

@@ -36,10 +36,10 @@ Result JsonToSequenceConverter::To(const JsonObject& json, Sequence& sequence) c
         return result;
 
     if (const auto id = members.Text(Key::Id))
-        sequence.Id(BaseTypes::Identifier(std::string(*id)));
+        sequence.Id(BaseTypes::Identifier(*id));
 
     if (const auto name = members.Text(Key::Name))
-        sequence.Name(BaseTypes::Utf8String(std::string(*name)));
+        sequence.Name(BaseTypes::Utf8String(*name));
 
     return {};
 }

@@ -59,10 +59,10 @@ Result JsonToMediaIOConverter::Append(const JsonObject& json, MediaIO& channel) 
 Result Details::AppendCommon(const ChannelMembers& members, MediaIO& channel)
 {
     if (const auto id = members.Text(ChannelKey::Id))
-        channel.Id(Identifier(std::string(*id)));
+        channel.Id(Identifier(*id));
 
     if (const auto name = members.Text(ChannelKey::Name))
-        channel.Name(Utf8String(std::string(*name)));
+        channel.Name(Utf8String(*name));
 
     if (const auto* mediaAssetOnAir = members.Object(ChannelKey::MediaAssetOnAir))
     {

@@ -54,12 +54,12 @@ std::optional<TimePoint> TimePointOf(const JsonObject& json)
     using Key = NanosecondsObjectKeys::Index;
 
     const KnownMembers<NanosecondsObjectKeys> members(json);
-    const auto* const value = members.Any(Key::Value);
-    if (members.Text(Key::Type) != "TimePoint" || value == nullptr)
+    if (members.Text(Key::Type) != "TimePoint")
         return std::nullopt;
-    if (value->isString())
-        return TimePoint(LeadingNumber(TextOf(*value)));
-    return value->isInt64() ? std::optional<TimePoint>(TimePoint(value->asInt64())) : std::nullopt;
+    if (const auto text = members.Text(Key::Value))
+        return TimePoint(LeadingNumber(*text));
+    const auto* const number = members.Any(Key::Value);
+    return number != nullptr && number->isInt64() ? std::optional<TimePoint>(number->asInt64()) : std::nullopt;
 }
 
 } // namespace

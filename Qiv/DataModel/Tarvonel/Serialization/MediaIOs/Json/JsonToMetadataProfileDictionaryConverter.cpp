@@ -41,7 +41,7 @@ GenericMetadataProfile& GenericProfile(std::string_view name, MetadataProfileDic
 {
     if (const auto existing = dictionary.Find(name))
         return dynamic_cast<GenericMetadataProfile&>(*existing);
-    const auto created = std::make_shared<GenericMetadataProfile>(FullyQualifiedName(std::string(name)));
+    const auto created = std::make_shared<GenericMetadataProfile>(FullyQualifiedName(name));
     dictionary.Set(created);
     return *created;
 }
@@ -83,7 +83,7 @@ Result JsonToMetadataProfileDictionaryConverter::To(const JsonObject& json, Meta
             profile = &GenericProfile(profileNamespace, dictionary);
             currentNamespace = profileNamespace;
         }
-        profile->Set(std::string(name.substr(lastDot + 1)), std::string(*text));
+        profile->Set(name.substr(lastDot + 1), *text);
     }
     return {};
 }

@@ -60,7 +60,7 @@ Result JsonToSequenceOutputConverter::To(const JsonObject& json, SequenceOutput&
         Details::SequenceReference reference;
         if (auto result = Details::SequenceReferenceReader().To(*sequenceOnAir, reference); !result)
             return result;
-        sequenceOutput.SequenceOnAir(reference);
+        sequenceOutput.SequenceOnAir(std::move(reference));
     }
 
     if (const auto* assetBlockOnAir = members.Object(Key::AssetBlockOnAir))
@@ -95,7 +95,7 @@ Result JsonToSequenceOutputConverter::ToAssetBlockOutput(const JsonObject& json,
         return result;
 
     if (const auto id = members.Text(Key::Id))
-        assetBlock.Id(Identifier(std::string(*id)));
+        assetBlock.Id(Identifier(*id));
 
     if (const auto* mediaAsset = members.Object(Key::MediaAsset))
     {

@@ -68,7 +68,7 @@ Result JsonToNodeConverter::To(const JsonObject& json, Node& node) const
     if (!id)
         return "Node has no identifier (required)";
 
-    node = Node(Identifier(std::string(*id)), members.Int(Key::SerialNumber).value_or(Node::UndefinedSerialNumber()),
+    node = Node(Identifier(*id), members.Int(Key::SerialNumber).value_or(Node::UndefinedSerialNumber()),
                 TextOrEmpty(members, Key::HostName), TextOrEmpty(members, Key::IpAddress),
                 TextsOrEmpty(members, Key::GbeIpAddresses), TextOrEmpty(members, Key::Chassis),
                 TextOrEmpty(members, Key::HardwareRevision), TextOrEmpty(members, Key::TarvonelVersion));
