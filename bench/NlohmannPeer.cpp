@@ -29,7 +29,7 @@ using nlohmann::json;
 template <typename T, typename Apply>
 void IfPresent(const json& object, const char* key, Apply apply)
 {
-    if (const auto member = object.find(key); member != object.end())
+    if (const auto member = object.find(key); member != object.end() && !member->is_null())
         apply(member->template get<T>());
 }
 
@@ -88,6 +88,7 @@ struct adl_serializer<Speed>
 {
     static void from_json(const json& object, Speed& speed)
     {
+        ExpectType(object, "Speed");
         speed = Speed(object.at("numerator").get<int>(), object.at("denominator").get<std::uint32_t>());
     }
 };

@@ -121,6 +121,25 @@ void IfObject(const Json::Value& json, const char* key, Apply apply)
         apply(*member);
 }
 
+bool IsOfType(const Json::Value& json, const char* type)
+{
+    bool isOfType = false;
+    IfText(json, "_type", [&](const std::string& found) { isOfType = found == type; });
+    return isOfType;
+}
+
+// Applies an object of another type neither.
+template <typename Apply>
+void IfObjectOf(const char* type, const Json::Value& json, const char* key, Apply apply)
+{
+    IfObject(json, key,
+             [&](const Json::Value& object)
+             {
+                 if (IsOfType(object, type))
+                     apply(object);
+             });
+}
+
 template <typename Apply>
 void IfTimeCode(const Json::Value& json, const char* key, Apply apply)
 {
@@ -136,23 +155,17 @@ void IfTimeCode(const Json::Value& json, const char* key, Apply apply)
 template <typename Apply>
 void IfNanoseconds(const Json::Value& json, const char* key, const char* type, Apply apply)
 {
-    IfObject(json, key,
-             [&](const Json::Value& object)
-             {
-                 IfText(object, "_type",
-                        [&](const std::string& found)
-                        {
-                            if (found != type)
-                                return;
-                            IfText(object, "value",
-                                   [&](const std::string& value)
-                                   {
-                                       const QivDurationParser parser;
-                                       if (parser.IsStringFormatValid(value))
-                                           apply(parser.Parse(value));
-                                   });
-                        });
-             });
+    IfObjectOf(type, json, key,
+               [&](const Json::Value& object)
+               {
+                   IfText(object, "value",
+                          [&](const std::string& value)
+                          {
+                              const QivDurationParser parser;
+                              if (parser.IsStringFormatValid(value))
+                                  apply(parser.Parse(value));
+                          });
+               });
 }
 
 template <typename Apply>
@@ -164,23 +177,24 @@ void IfTimePoint(const Json::Value& json, const char* key, Apply apply)
 template <typename Apply>
 void IfAssetReference(const Json::Value& json, const char* key, Apply apply)
 {
-    IfObject(json, key,
-             [&](const Json::Value& reference)
-             {
-                 SharedReference<MediaAsset> result;
-                 IfText(reference, "id", [&](const std::string& id) { result.Id(Identifier(id)); });
-                 IfObject(reference, "mediaAsset",
-                          [&](const Json::Value& object)
-                          {
-                              auto asset = std::make_shared<MediaAsset>();
-                              IfText(object, "id", [&](const std::string& id) { asset->Id(Identifier(id)); });
-                              IfText(object, "name", [&](const std::string& name) { asset->Name(Utf8String(name)); });
-                              IfTimePoint(object, "inPoint", [&](TimePoint point) { asset->InPoint(point); });
-                              IfTimePoint(object, "outPoint", [&](TimePoint point) { asset->OutPoint(point); });
-                              result = asset;
-                          });
-                 apply(result);
-             });
+    IfObjectOf("MediaAssetRef", json, key,
+               [&](const Json::Value& reference)
+               {
+                   SharedReference<MediaAsset> result;
+                   IfText(reference, "id", [&](const std::string& id) { result.Id(Identifier(id)); });
+                   IfObjectOf("MediaAsset", reference, "mediaAsset",
+                              [&](const Json::Value& object)
+                              {
+                                  auto asset = std::make_shared<MediaAsset>();
+                                  IfText(object, "id", [&](const std::string& id) { asset->Id(Identifier(id)); });
+                                  IfText(object, "name",
+                                         [&](const std::string& name) { asset->Name(Utf8String(name)); });
+                                  IfTimePoint(object, "inPoint", [&](TimePoint point) { asset->InPoint(point); });
+                                  IfTimePoint(object, "outPoint", [&](TimePoint point) { asset->OutPoint(point); });
+                                  result = asset;
+                              });
+                   apply(result);
+               });
 }
 
 void SetMetadata(MediaIO& channel, const std::string& name, const std::string& value)
@@ -227,8 +241,7 @@ void ReadCommon(const Json::Value& json, MediaIO& channel)
 
 void Read(const Json::Value& json, MediaInput& channel)
 {
-    if (const auto* type = Find(json, "_type");
-        type == nullptr || !type->isString() || type->asString() != "MediaInput")
+    if (!IsOfType(json, "MediaInput"))
         return;
     ReadCommon(json, channel);
     IfText(json, "recordingStatus", [&](const std::string& text) { channel.RecordingStatus(ToRecordingStatus(text)); });
@@ -281,40 +294,39 @@ std::unique_ptr<Boundary> BoundaryOf(const Json::Value& json)
 
 void Read(const Json::Value& json, MediaOutput& channel)
 {
-    if (const auto* type = Find(json, "_type");
-        type == nullptr || !type->isString() || type->asString() != "MediaOutput")
+    if (!IsOfType(json, "MediaOutput"))
         return;
     ReadCommon(json, channel);
     IfText(json, "playingStatus", [&](const std::string& text) { channel.PlayingStatus(ToPlayingStatus(text)); });
-    IfObject(json, "speedOnAir",
-             [&](const Json::Value& speed)
-             {
-                 const auto* numerator = Find(speed, "numerator");
-                 const auto* denominator = Find(speed, "denominator");
-                 if (numerator != nullptr && numerator->isInt() && denominator != nullptr && denominator->isInt())
-                     channel.SpeedOnAir(Speed(numerator->asInt(), static_cast<std::uint32_t>(denominator->asInt())));
-             });
+    IfObjectOf("Speed", json, "speedOnAir",
+               [&](const Json::Value& speed)
+               {
+                   const auto* numerator = Find(speed, "numerator");
+                   const auto* denominator = Find(speed, "denominator");
+                   if (numerator != nullptr && numerator->isInt() && denominator != nullptr && denominator->isInt())
+                       channel.SpeedOnAir(Speed(numerator->asInt(), static_cast<std::uint32_t>(denominator->asInt())));
+               });
     IfText(json, "globalLoopMode", [&](const std::string& text) { channel.GlobalLoopMode(ToPlayingLoopMode(text)); });
     IfNanoseconds(json, "remainingTime", "Duration", [&](Duration value) { channel.RemainingTime(value); });
-    IfObject(json, "sequence",
-             [&](const Json::Value& object)
-             {
-                 SequenceOutput sequence;
-                 IfObject(object, "sequenceOnAir",
-                          [&](const Json::Value& reference)
-                          {
-                              SharedReference<Sequence> result;
-                              IfText(reference, "id", [&](const std::string& id) { result.Id(Identifier(id)); });
-                              sequence.SequenceOnAir(result);
-                          });
-                 IfObject(object, "assetBlockOnAir",
-                          [&](const Json::Value& block) { sequence.AssetBlockOnAir(BlockOf(block)); });
-                 IfObject(object, "nextAssetBlockOnAir",
-                          [&](const Json::Value& block) { sequence.NextAssetBlockOnAir(BlockOf(block)); });
-                 if (const auto* editMode = Find(object, "editMode"))
-                     sequence.EditMode(editMode->asBool());
-                 channel.Sequence(sequence);
-             });
+    IfObjectOf("SequenceOutput", json, "sequence",
+               [&](const Json::Value& object)
+               {
+                   SequenceOutput sequence;
+                   IfObjectOf("SequenceRef", object, "sequenceOnAir",
+                              [&](const Json::Value& reference)
+                              {
+                                  SharedReference<Sequence> result;
+                                  IfText(reference, "id", [&](const std::string& id) { result.Id(Identifier(id)); });
+                                  sequence.SequenceOnAir(result);
+                              });
+                   IfObjectOf("AssetBlockOnAir", object, "assetBlockOnAir",
+                              [&](const Json::Value& block) { sequence.AssetBlockOnAir(BlockOf(block)); });
+                   IfObjectOf("AssetBlockOnAir", object, "nextAssetBlockOnAir",
+                              [&](const Json::Value& block) { sequence.NextAssetBlockOnAir(BlockOf(block)); });
+                   if (const auto* editMode = Find(object, "editMode"))
+                       sequence.EditMode(editMode->asBool());
+                   channel.Sequence(sequence);
+               });
     IfTimePoint(json, "currentTimePointOnAir", [&](TimePoint point) { channel.CurrentTimePointOnAir(point); });
     IfTimeCode(json, "todTimecodeOnAir", [&](const TimeCode& timeCode) { channel.TodTimecodeOnAir(timeCode); });
     IfTimeCode(json, "userTimecodeOnAir", [&](const TimeCode& timeCode) { channel.UserTimecodeOnAir(timeCode); });
