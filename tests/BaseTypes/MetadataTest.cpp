@@ -48,6 +48,23 @@ TEST(GenericMetadataProfile, IsEqualByNameAndContent)
     EXPECT_EQ(profile->ToString(), "a.b");
 }
 
+TEST(GenericMetadataProfile, AssignsWhatItSets)
+{
+    GenericMetadataProfile set, assigned;
+    GenericMetadataProfile::Dictionary expected;
+    const std::pair<std::string, std::string> rows[] = {
+        {"b", "1"}, {"c", "2"}, {"a", "3"}, {"b", "4"}, {"c", "longer than what a string holds in itself"}, {"", "5"}};
+    for (const auto& [key, value] : rows)
+    {
+        set.Set(key, value);
+        assigned.Assign(key, value);
+        expected[key] = value;
+        EXPECT_TRUE(set == *MakeProfile("", expected) && assigned == set) << key;
+    }
+    assigned.Assign("c", std::string_view(assigned["c"]).substr(7)); // a part of the value that it replaces
+    EXPECT_EQ(assigned.Get("c"), "than what a string holds in itself");
+}
+
 TEST(GenericMetadataProfile, VisitsPairsInKeyOrderUntilToldToStop)
 {
     const auto profile = MakeProfile("n", {{"b", "2"}, {"a", "1"}, {"\xC3", "4"}, {"c", "3"}});

@@ -80,13 +80,18 @@ bool GenericMetadataProfile::Erase(const std::string& key)
     return dictionary_.erase(key) != 0;
 }
 
-void GenericMetadataProfile::Set(std::string_view key, std::string_view value)
+void GenericMetadataProfile::Set(std::string key, std::string value)
+{
+    dictionary_.insert_or_assign(std::move(key), std::move(value));
+}
+
+void GenericMetadataProfile::Assign(std::string_view key, std::string_view value)
 {
     // Keys mostly come in order, since readers find them so: then this is the place at once.
-    const auto size = dictionary_.size();
-    const auto entry = dictionary_.emplace_hint(dictionary_.end(), key, value);
-    if (dictionary_.size() == size)
-        entry->second = value;
+    if (dictionary_.empty() || dictionary_.rbegin()->first < key)
+        dictionary_.emplace_hint(dictionary_.end(), key, value);
+    else
+        dictionary_[std::string(key)] = value;
 }
 
 std::string GenericMetadataProfile::Get(const std::string& key) const

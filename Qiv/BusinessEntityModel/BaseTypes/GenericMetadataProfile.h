@@ -49,7 +49,9 @@ public:
     bool Contains(const std::string& key) const;
     /// Removes `key` and its value; false when the profile does not have it.
     bool Erase(const std::string& key);
-    void Set(std::string_view key, std::string_view value);
+    void Set(std::string key, std::string value);
+    /// The same for texts that are held elsewhere: each is copied once, straight to its place.
+    void Assign(std::string_view key, std::string_view value);
     /// The value of `key`; empty when the profile does not have it.
     std::string Get(const std::string& key) const;
     /// The value of `key`, which is inserted with an empty value when the profile does not have it.

@@ -77,8 +77,8 @@ private:
         return leftWord == rightWord;
     }
 
-    // What `std::memcmp` tells, for the short texts that keys are: there, the call alone takes longer. The last word
-    // overlaps the one before.
+    // Whether two texts of this size are equal. They are short, as keys are, so a call of `std::memcmp` alone would
+    // take longer. The last word overlaps the one before.
     static bool AreEqual(const char* left, const char* right, std::size_t size) noexcept
     {
         using Short = std::uint32_t;

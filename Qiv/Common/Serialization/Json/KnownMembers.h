@@ -65,7 +65,8 @@ inline std::optional<std::int32_t> IfInt(const JsonObject* member) noexcept
 {
     if (member == nullptr)
         return std::nullopt;
-    if (member->type() != ::Json::intValue) // `asInt` asks `isInt` once more
+    // Integers themselves, since `asInt` asks `isInt` once more.
+    if (member->type() != ::Json::intValue)
         return member->isInt() ? std::optional<std::int32_t>(member->asInt()) : std::nullopt;
     const auto value = member->asLargestInt();
     const auto narrow = static_cast<std::int32_t>(value);

@@ -66,7 +66,7 @@ public:
     {
         return sequenceOnAir_;
     }
-    /// The argument is only read; it is taken by non-const reference as the server's other parts declare it.
+    /// An lvalue is only read; it is taken by non-const reference as the server's other parts declare it.
     void SequenceOnAir(BusinessEntityModel::BaseTypes::SharedReference<BusinessEntityModel::Edits::Sequence>& sequence)
     {
         sequenceOnAir_ = sequence;

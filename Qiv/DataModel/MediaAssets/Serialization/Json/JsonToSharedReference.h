@@ -62,7 +62,7 @@ public:
         auto object = std::make_shared<T>();
         if (auto result = fromJsonConverter_->To(*form.embedded, *object); !result)
             return result;
-        reference.Pointer(std::move(object));
+        reference = Reference(std::move(object));
         return {};
     }
 

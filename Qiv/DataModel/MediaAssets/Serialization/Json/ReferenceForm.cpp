@@ -52,12 +52,14 @@ Result ReadReferenceForm(const JsonObject& json, std::string_view type, std::str
             return BadReferenceFormat();
         else
             form.id = Identifier(id->asString());
+        form.embedded = nullptr;
         return {};
     }
 
     const auto* const embedded = IfType(FindMember(json, embeddedProperty), ::Json::objectValue);
     if (embedded == nullptr)
         return BadReferenceFormat();
+    form.id = Identifier();
     form.embedded = embedded;
     return {};
 }

@@ -6,7 +6,6 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToPelOperatorMetaDataConverter.h>
 
 #include <memory>
-#include <string>
 #include <string_view>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
@@ -83,7 +82,7 @@ Result JsonToMetadataProfileDictionaryConverter::To(const JsonObject& json, Meta
             profile = &GenericProfile(profileNamespace, dictionary);
             currentNamespace = profileNamespace;
         }
-        profile->Set(name.substr(lastDot + 1), *text);
+        profile->Assign(name.substr(lastDot + 1), *text);
     }
     return {};
 }

@@ -3,7 +3,6 @@
 #include <Qiv/Common/Serialization/Json/KnownMembers.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/References.h>
 
-#include <string>
 #include <utility>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
