@@ -13,6 +13,8 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
+#include <utility>
 
 using namespace Qiv::BusinessEntityModel::BaseTypes;
 using namespace Qiv::DataModel::Tarvonel::MediaIOs;
@@ -26,11 +28,25 @@ namespace
 
 using nlohmann::json;
 
+// The member of an object unless it is absent or null.
+const json* Find(const json& object, const char* key)
+{
+    const auto member = object.find(key);
+    return member != object.end() && !member->is_null() ? &*member : nullptr;
+}
+
 template <typename T, typename Apply>
 void IfPresent(const json& object, const char* key, Apply apply)
 {
-    if (const auto member = object.find(key); member != object.end() && !member->is_null())
-        apply(member->template get<T>());
+    if (const auto* member = Find(object, key))
+        apply(member->get<T>());
+}
+
+template <typename Apply>
+void IfText(const json& object, const char* key, Apply apply)
+{
+    if (const auto* member = Find(object, key))
+        apply(member->get_ref<const std::string&>());
 }
 
 void ExpectType(const json& object, const char* type)
@@ -112,7 +128,7 @@ struct adl_serializer<SharedReference<MediaAsset>>
     static void from_json(const json& object, SharedReference<MediaAsset>& reference)
     {
         ExpectType(object, "MediaAssetRef");
-        if (const auto asset = object.find("mediaAsset"); asset != object.end())
+        if (const auto* asset = Find(object, "mediaAsset"))
             reference = std::make_shared<MediaAsset>(asset->get<MediaAsset>());
         else
             reference = SharedReference<MediaAsset>(object.at("id").get<Identifier>());
@@ -134,14 +150,14 @@ struct adl_serializer<MetadataProfileDictionary>
 {
     static void from_json(const json& object, MetadataProfileDictionary& metadata)
     {
-        const auto serverId = object.find("qiv.peloperator.serverId");
-        const auto index = object.find("qiv.peloperator.index");
-        if (serverId != object.end() || index != object.end())
+        const auto* serverId = Find(object, "qiv.peloperator.serverId");
+        const auto* index = Find(object, "qiv.peloperator.index");
+        if (serverId != nullptr || index != nullptr)
         {
             const auto profile = std::make_shared<PelOperatorMetadataProfile>();
-            if (serverId != object.end())
+            if (serverId != nullptr)
                 profile->ServerId(serverId->get<int>());
-            if (index != object.end())
+            if (index != nullptr)
                 profile->Index(index->get<int>());
             metadata.Set(profile);
         }
@@ -154,7 +170,7 @@ struct adl_serializer<MetadataProfileDictionary>
             if (!metadata.Contains(profileName))
                 metadata.Set(std::make_shared<GenericMetadataProfile>(profileName));
             dynamic_cast<GenericMetadataProfile&>(metadata.At(profileName))
-                .Set(name.substr(dot + 1), value.get<std::string>());
+                .Assign(std::string_view(name).substr(dot + 1), value.get_ref<const std::string&>());
         }
     }
 };
@@ -178,8 +194,9 @@ struct adl_serializer<SequenceOutput>
     {
         using Block = SequenceOutput::AssetBlockOutput;
         ExpectType(object, "SequenceOutput");
-        IfPresent<SharedReference<Sequence>>(
-            object, "sequenceOnAir", [&](SharedReference<Sequence> reference) { sequence.SequenceOnAir(reference); });
+        IfPresent<SharedReference<Sequence>>(object, "sequenceOnAir",
+                                             [&](SharedReference<Sequence> reference)
+                                             { sequence.SequenceOnAir(std::move(reference)); });
         IfPresent<Block>(object, "assetBlockOnAir", [&](Block block) { sequence.AssetBlockOnAir(std::move(block)); });
         IfPresent<Block>(object, "nextAssetBlockOnAir",
                          [&](Block block) { sequence.NextAssetBlockOnAir(std::move(block)); });
@@ -201,8 +218,7 @@ struct adl_serializer<std::unique_ptr<Boundary>>
         }
         ExpectType(object, "BoundaryRelative");
         auto relative = std::make_unique<BoundaryRelative>();
-        IfPresent<std::string>(object, "origin",
-                               [&](const std::string& text) { relative->Origin(ToBoundaryOrigin(text)); });
+        IfText(object, "origin", [&](const std::string& text) { relative->Origin(ToBoundaryOrigin(text)); });
         IfPresent<int>(object, "offset", [&](int offset) { relative->Offset(offset); });
         boundary = std::move(relative);
     }
@@ -223,7 +239,7 @@ void ReadCommon(const json& object, MediaIO& channel)
     IfPresent<SharedReference<MediaAsset>>(object, "mediaAssetOnAir",
                                            [&](SharedReference<MediaAsset> asset)
                                            { channel.MediaAssetOnAir(std::move(asset)); });
-    if (const auto metadata = object.find("metadata"); metadata != object.end())
+    if (const auto* metadata = Find(object, "metadata"))
         metadata->get_to(channel.Metadata());
 }
 
@@ -233,13 +249,13 @@ void Read(const json& object, MediaInput& channel)
 {
     ExpectType(object, "MediaInput");
     ReadCommon(object, channel);
-    IfPresent<std::string>(object, "recordingStatus",
-                           [&](const std::string& text) { channel.RecordingStatus(ToRecordingStatus(text)); });
+    IfText(object, "recordingStatus",
+           [&](const std::string& text) { channel.RecordingStatus(ToRecordingStatus(text)); });
     IfPresent<TimePoint>(object, "lastTimePoint", [&](TimePoint point) { channel.LastTimePoint(point); });
     IfPresent<TimeCode>(object, "lastTodTimecode", [&](const TimeCode& time) { channel.LastTodTimecode(time); });
     IfPresent<TimeCode>(object, "lastUserTimecode", [&](const TimeCode& time) { channel.LastUserTimecode(time); });
-    IfPresent<std::string>(object, "primaryTimecodeType",
-                           [&](const std::string& text) { channel.PrimaryTimecodeType(ToTimecodePrimary(text)); });
+    IfText(object, "primaryTimecodeType",
+           [&](const std::string& text) { channel.PrimaryTimecodeType(ToTimecodePrimary(text)); });
     IfPresent<Duration>(object, "remainingCapacity", [&](Duration value) { channel.RemainingCapacity(value); });
     IfPresent<Duration>(object, "totalCapacity", [&](Duration value) { channel.TotalCapacity(value); });
 }
@@ -248,19 +264,17 @@ void Read(const json& object, MediaOutput& channel)
 {
     ExpectType(object, "MediaOutput");
     ReadCommon(object, channel);
-    IfPresent<std::string>(object, "playingStatus",
-                           [&](const std::string& text) { channel.PlayingStatus(ToPlayingStatus(text)); });
+    IfText(object, "playingStatus", [&](const std::string& text) { channel.PlayingStatus(ToPlayingStatus(text)); });
     IfPresent<Speed>(object, "speedOnAir", [&](Speed speed) { channel.SpeedOnAir(speed); });
-    IfPresent<std::string>(object, "globalLoopMode",
-                           [&](const std::string& text) { channel.GlobalLoopMode(ToPlayingLoopMode(text)); });
+    IfText(object, "globalLoopMode", [&](const std::string& text) { channel.GlobalLoopMode(ToPlayingLoopMode(text)); });
     IfPresent<Duration>(object, "remainingTime", [&](Duration value) { channel.RemainingTime(value); });
     IfPresent<SequenceOutput>(object, "sequence", [&](SequenceOutput value) { channel.Sequence(std::move(value)); });
     IfPresent<TimePoint>(object, "currentTimePointOnAir",
                          [&](TimePoint point) { channel.CurrentTimePointOnAir(point); });
     IfPresent<TimeCode>(object, "todTimecodeOnAir", [&](const TimeCode& time) { channel.TodTimecodeOnAir(time); });
     IfPresent<TimeCode>(object, "userTimecodeOnAir", [&](const TimeCode& time) { channel.UserTimecodeOnAir(time); });
-    IfPresent<std::string>(object, "primaryTimecodeType",
-                           [&](const std::string& text) { channel.PrimaryTimecodeType(ToTimecodePrimary(text)); });
+    IfText(object, "primaryTimecodeType",
+           [&](const std::string& text) { channel.PrimaryTimecodeType(ToTimecodePrimary(text)); });
     IfPresent<std::unique_ptr<Boundary>>(
         object, "inBoundary", [&](std::unique_ptr<Boundary> boundary) { channel.InBoundary(std::move(boundary)); });
     IfPresent<std::unique_ptr<Boundary>>(

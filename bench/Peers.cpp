@@ -10,6 +10,8 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace Bench
 {
@@ -128,7 +130,7 @@ bool IsOfType(const Json::Value& json, const char* type)
     return isOfType;
 }
 
-// Applies an object of another type neither.
+// Also skips an object of another type.
 template <typename Apply>
 void IfObjectOf(const char* type, const Json::Value& json, const char* key, Apply apply)
 {
@@ -146,9 +148,9 @@ void IfTimeCode(const Json::Value& json, const char* key, Apply apply)
     IfText(json, key,
            [&](const std::string& text)
            {
-               const QivTimeCodeParser parser;
-               if (parser.IsStringFormatValid(text))
-                   apply(parser.Parse(text));
+               TimeCode timeCode;
+               if (QivTimeCodeParser::TryRead(text, timeCode))
+                   apply(timeCode);
            });
 }
 
@@ -161,9 +163,9 @@ void IfNanoseconds(const Json::Value& json, const char* key, const char* type, A
                    IfText(object, "value",
                           [&](const std::string& value)
                           {
-                              const QivDurationParser parser;
-                              if (parser.IsStringFormatValid(value))
-                                  apply(parser.Parse(value));
+                              Duration duration;
+                              if (QivDurationParser::TryRead(value, duration))
+                                  apply(duration);
                           });
                });
 }
@@ -181,19 +183,19 @@ void IfAssetReference(const Json::Value& json, const char* key, Apply apply)
                [&](const Json::Value& reference)
                {
                    SharedReference<MediaAsset> result;
-                   IfText(reference, "id", [&](const std::string& id) { result.Id(Identifier(id)); });
+                   IfText(reference, "id", [&](std::string id) { result = Identifier(std::move(id)); });
                    IfObjectOf("MediaAsset", reference, "mediaAsset",
                               [&](const Json::Value& object)
                               {
                                   auto asset = std::make_shared<MediaAsset>();
-                                  IfText(object, "id", [&](const std::string& id) { asset->Id(Identifier(id)); });
+                                  IfText(object, "id", [&](std::string id) { asset->Id(Identifier(std::move(id))); });
                                   IfText(object, "name",
-                                         [&](const std::string& name) { asset->Name(Utf8String(name)); });
+                                         [&](std::string name) { asset->Name(Utf8String(std::move(name))); });
                                   IfTimePoint(object, "inPoint", [&](TimePoint point) { asset->InPoint(point); });
                                   IfTimePoint(object, "outPoint", [&](TimePoint point) { asset->OutPoint(point); });
                                   result = asset;
                               });
-                   apply(result);
+                   apply(std::move(result));
                });
 }
 
@@ -205,7 +207,8 @@ void SetMetadata(MediaIO& channel, const std::string& name, const std::string& v
     const FullyQualifiedName profileName(name.substr(0, dot));
     if (!channel.Metadata().Contains(profileName))
         channel.Metadata().Set(std::make_shared<GenericMetadataProfile>(profileName));
-    dynamic_cast<GenericMetadataProfile&>(channel.Metadata().At(profileName)).Set(name.substr(dot + 1), value);
+    dynamic_cast<GenericMetadataProfile&>(channel.Metadata().At(profileName))
+        .Assign(std::string_view(name).substr(dot + 1), value);
 }
 
 void ReadGenericProfiles(const Json::Value& metadata, MediaIO& channel)
@@ -217,10 +220,10 @@ void ReadGenericProfiles(const Json::Value& metadata, MediaIO& channel)
 
 void ReadCommon(const Json::Value& json, MediaIO& channel)
 {
-    IfText(json, "id", [&](const std::string& id) { channel.Id(Identifier(id)); });
-    IfText(json, "name", [&](const std::string& name) { channel.Name(Utf8String(name)); });
+    IfText(json, "id", [&](std::string id) { channel.Id(Identifier(std::move(id))); });
+    IfText(json, "name", [&](std::string name) { channel.Name(Utf8String(std::move(name))); });
     IfAssetReference(json, "mediaAssetOnAir",
-                     [&](const SharedReference<MediaAsset>& reference) { channel.MediaAssetOnAir(reference); });
+                     [&](SharedReference<MediaAsset> reference) { channel.MediaAssetOnAir(std::move(reference)); });
     IfObject(json, "metadata",
              [&](const Json::Value& metadata)
              {
@@ -260,9 +263,9 @@ namespace
 SequenceOutput::AssetBlockOutput BlockOf(const Json::Value& json)
 {
     SequenceOutput::AssetBlockOutput block;
-    IfText(json, "id", [&](const std::string& id) { block.Id(Identifier(id)); });
+    IfText(json, "id", [&](std::string id) { block.Id(Identifier(std::move(id))); });
     IfAssetReference(json, "mediaAsset",
-                     [&](const SharedReference<MediaAsset>& reference) { block.MediaAssetRef(reference); });
+                     [&](SharedReference<MediaAsset> reference) { block.MediaAssetRef(std::move(reference)); });
     return block;
 }
 
@@ -316,8 +319,8 @@ void Read(const Json::Value& json, MediaOutput& channel)
                               [&](const Json::Value& reference)
                               {
                                   SharedReference<Sequence> result;
-                                  IfText(reference, "id", [&](const std::string& id) { result.Id(Identifier(id)); });
-                                  sequence.SequenceOnAir(result);
+                                  IfText(reference, "id", [&](std::string id) { result = Identifier(std::move(id)); });
+                                  sequence.SequenceOnAir(std::move(result));
                               });
                    IfObjectOf("AssetBlockOnAir", object, "assetBlockOnAir",
                               [&](const Json::Value& block) { sequence.AssetBlockOnAir(BlockOf(block)); });
@@ -325,7 +328,7 @@ void Read(const Json::Value& json, MediaOutput& channel)
                               [&](const Json::Value& block) { sequence.NextAssetBlockOnAir(BlockOf(block)); });
                    if (const auto* editMode = Find(object, "editMode"))
                        sequence.EditMode(editMode->asBool());
-                   channel.Sequence(sequence);
+                   channel.Sequence(std::move(sequence));
                });
     IfTimePoint(json, "currentTimePointOnAir", [&](TimePoint point) { channel.CurrentTimePointOnAir(point); });
     IfTimeCode(json, "todTimecodeOnAir", [&](const TimeCode& timeCode) { channel.TodTimecodeOnAir(timeCode); });

@@ -28,29 +28,39 @@ GOALS = {
     ("time code: format", "snprintf"): 0.17,
     ("duration: check and parse", "std::regex"): 0.03,
 }
-PROCESSES = 5  # each has its own layout of addresses, which alone changes times by several per cent
-REPETITIONS = 3
+PROCESSES = 9  # each has its own layout of addresses, which alone changes times by several per cent
+REPETITIONS = 5
+
+
+def run(program, *options):
+    return subprocess.run([program, *options], check=True, stdout=subprocess.PIPE, text=True).stdout
 
 
 def measure(program):
+    """The times of each work by who does it, a median for each process. A process does one work, by all in turn: the
+    machine may be slower a second later."""
+    names = run(program, "--benchmark_list_tests").splitlines()
     times = {}
-    for _ in range(PROCESSES):
-        report = json.loads(subprocess.run(
-            [program, "--benchmark_format=json", f"--benchmark_repetitions={REPETITIONS}", "--benchmark_min_time=0.03",
-             "--benchmark_enable_random_interleaving=true"],
-            check=True, stdout=subprocess.PIPE).stdout)
-        for run in report["benchmarks"]:
-            if run["run_type"] == "iteration":
-                work, who = run["run_name"].split("|")
-                times.setdefault(work, {}).setdefault(who, []).append(run["cpu_time"])
-    return {work: {who: statistics.median(values) for who, values in by_who.items()} for work, by_who in times.items()}
+    for work in dict.fromkeys(name.split("|")[0] for name in names):
+        by_who = times.setdefault(work, {})
+        for _ in range(PROCESSES):
+            report = json.loads(run(program, f"--benchmark_filter=^{work}[|]", "--benchmark_format=json",
+                                    f"--benchmark_repetitions={REPETITIONS}", "--benchmark_min_time=0.02",
+                                    "--benchmark_enable_random_interleaving=true"))
+            for result in report["benchmarks"]:
+                if result.get("aggregate_name") == "median":
+                    by_who.setdefault(result["run_name"].split("|")[1], []).append(result["cpu_time"])
+    return times
 
 
 def ratios(times):
     for work, by_who in times.items():
-        for peer, peer_time in by_who.items():
+        own = by_who["library"]
+        for peer, peer_times in by_who.items():
             if peer != "library":
-                yield work, by_who["library"], peer, peer_time, by_who["library"] / peer_time, GOALS.get((work, peer))
+                ratio = statistics.median(mine / theirs for mine, theirs in zip(own, peer_times))
+                yield (work, statistics.median(own), peer, statistics.median(peer_times), ratio,
+                       GOALS.get((work, peer)))
 
 
 def markdown(rows, times, allocations):
@@ -58,7 +68,7 @@ def markdown(rows, times, allocations):
     for work, own, peer, peer_time, ratio, goal in rows:
         verdict = "" if goal is None else f"{goal:.2f}" + ("" if ratio <= goal else " missed")
         lines.append(f"| {work} | {own:,.0f} | {peer} | {peer_time:,.0f} | {ratio:.3f} | {verdict} |")
-    each = [times[f"write {count} channels"]["library"] / count for count in (1000, 10000)]
+    each = [statistics.median(times[f"write {count} channels"]["library"]) / count for count in (1000, 10000)]
     lines += ["", f"Per channel in one writer: {each[0]:.0f} ns of 1,000 and {each[1]:.0f} ns of 10,000.", "",
               "| work | allocations |", "|---|---:|"]
     lines += [f"| {work} | {count} |" for work, count in allocations]
@@ -90,7 +100,7 @@ def main():
     results = pathlib.Path(__file__).parent / "results"
     results.mkdir(exist_ok=True)
     times = measure(str(build / "qiv_bench"))
-    counted = subprocess.run([str(build / "qiv_allocations")], check=True, stdout=subprocess.PIPE, text=True).stdout
+    counted = run(str(build / "qiv_allocations"))
     rows = sorted(ratios(times), key=lambda row: (row[0], row[2]))
     table = markdown(rows, times, [line.split("|") for line in counted.splitlines()])
     print(table)
