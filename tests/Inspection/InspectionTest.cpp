@@ -294,6 +294,14 @@ TEST(ReadText, TellsWhatIsWrongAndWhere)
         }
         EXPECT_EQ(Written(channel), fullOutput);
     }
+    std::unique_ptr<Boundary> boundary;
+    EXPECT_EQ(MergeText(R"({"_type":"BoundaryRelative","origin":"Absolute"})", boundary).ErrorMessage(),
+              R"("Absolute" is the origin of a relative boundary, which ends the process)");
+    MediaInput recorder; // for which nothing ends the process
+    EXPECT_EQ(
+        MergeText(R"({"_type":"MediaOutput","inBoundary":{"_type":"BoundaryRelative","origin":"Absolute"}})", recorder)
+            .ErrorMessage(),
+        "Inconsistent types - cannot merge JSON-MediaOutput source with MediaInput destination.");
     JsonObject json;
     // What stands behind the text does not matter.
     EXPECT_EQ(ParseText(std::string_view("{\r\n").substr(0, 2), json).Position().column, 1U);

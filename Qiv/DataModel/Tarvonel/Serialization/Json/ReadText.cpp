@@ -48,6 +48,12 @@ DocumentKind KindOf(const std::unique_ptr<Boundary>&)
     return DocumentKind::Boundary;
 }
 
+// Whether any document that is read as this kind can. An inspection takes several times as long as the reading.
+bool CanEndTheProcess(DocumentKind kind)
+{
+    return kind == DocumentKind::MediaOutput || kind == DocumentKind::Boundary;
+}
+
 // Finds what jsoncpp lets through, as some comments, and what it does not tell the place of, as deep nesting. Whatever
 // else is wrong is left to it.
 TextResult CheckText(std::string_view text)
@@ -138,12 +144,17 @@ TextResult Read(std::string_view text, Entity& entity, Result (*read)(const Json
     if (auto result = ParseText(text, json); !result)
         return result;
 
-    const auto findings = InspectDocument(json, KindOf(entity));
-    if (const auto* const fatal = FirstFatal(findings))
-        return FailureAt(text, *fatal, fatal->sentence);
+    const auto kind = KindOf(entity);
+    if (CanEndTheProcess(kind))
+    {
+        const auto findings = InspectDocument(json, kind);
+        if (const auto* const fatal = FirstFatal(findings))
+            return FailureAt(text, *fatal, fatal->sentence);
+    }
     const auto result = read(json, entity);
     if (result)
         return {};
+    const auto findings = InspectDocument(json, kind);
     const auto* const announced = FirstFailure(findings);
     return FailureAt(text, announced != nullptr ? *announced : Finding(), result.ErrorMessage());
 }
