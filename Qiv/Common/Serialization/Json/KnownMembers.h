@@ -89,6 +89,27 @@ inline Result CheckType(std::optional<std::string_view> type, std::string_view e
     return !type || *type == expected ? Result() : InvalidType(*type, expected);
 }
 
+/// Calls `visit` with the name and the iterator of each member of an object, in ascending order of the names. Returns the
+/// number of members; 0 for a value that is no object.
+template <typename Visit>
+std::size_t VisitMembers(const JsonObject& json, const Visit& visit)
+{
+    const std::size_t size = json.size(); // 0 for scalars
+    if (size == 0)
+        return 0;
+    auto left = size;
+    for (auto member = json.begin();; ++member)
+    {
+        const char* nameEnd = nullptr;
+        const char* const nameBegin = member.memberName(&nameEnd);
+        if (nameBegin == nullptr) // an array
+            return 0;
+        visit(std::string_view(nameBegin, static_cast<std::size_t>(nameEnd - nameBegin)), member);
+        if (--left == 0)
+            return size;
+    }
+}
+
 /// Sets `members[i]` to the member with the i-th key of the table, and leaves it alone when there is none. What
 /// `KnownMembers` does. Returns the number of all members of the object; 0 for a value that is none.
 QIV_COMMON_SERIALIZATION_EXPORT std::size_t FindMembers(const JsonObject& json, const KeyTable& keys,

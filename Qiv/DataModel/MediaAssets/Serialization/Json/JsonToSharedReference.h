@@ -52,9 +52,9 @@ public:
         ReferenceForm form;
         if (auto result = ReadReferenceForm(json, typeProperty_, embeddedProperty_, form); !result)
             return result;
-        if (form.embedded == nullptr)
+        if (form.id != nullptr)
         {
-            reference = std::move(form.id);
+            reference = IdentifierOf(*form.id);
             return {};
         }
         if (fromJsonConverter_ == nullptr)

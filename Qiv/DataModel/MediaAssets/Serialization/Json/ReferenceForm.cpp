@@ -2,31 +2,12 @@
 
 #include <Qiv/Common/Serialization/Json/KnownMembers.h>
 
-#include <array>
-#include <string>
-
 namespace Qiv::DataModel::MediaAssets::Serialization::Json
 {
 
 using namespace Common::Serialization::Json;
 using BusinessEntityModel::BaseTypes::Identifier;
 using Common::Serialization::Result;
-
-namespace
-{
-
-struct Keys
-{
-    enum class Index
-    {
-        Type,
-        Id
-    };
-    static constexpr std::array<std::string_view, 2> names{"_type", "id"};
-};
-using Key = Keys::Index;
-
-} // namespace
 
 Result BadReferenceFormat()
 {
@@ -36,32 +17,39 @@ Result BadReferenceFormat()
 Result ReadReferenceForm(const JsonObject& json, std::string_view type, std::string_view embeddedProperty,
                          ReferenceForm& form)
 {
-    const KnownMembers<Keys> members(json);
-    const auto typeText = members.Text(Key::Type);
-    if (typeText.value_or(type) != type)
+    ReferenceForm found;
+    const JsonObject* foundType = nullptr;
+    const auto size = VisitMembers(json,
+                                   [&](std::string_view name, const auto& member)
+                                   {
+                                       if (name == "_type")
+                                           foundType = &*member;
+                                       if (name == "id")
+                                           found.id = &*member;
+                                       if (name == embeddedProperty)
+                                           found.embedded = &*member;
+                                   });
+    if (IfText(foundType).value_or(type) != type)
         return "Bad _type";
 
-    const auto* const id = members.Any(Key::Id);
-    const bool hasIdAlone =
-        members.Size() == 1 || (members.Size() == 2 && (typeText || members.Any(Key::Type) != nullptr));
-    if (id != nullptr && hasIdAlone)
+    const bool hasIdAlone = size == 1 || (size == 2 && IfNotNull(foundType) != nullptr);
+    if (hasIdAlone && IfNotNull(found.id) != nullptr)
     {
-        if (const auto text = IfText(id))
-            form.id = Identifier(*text);
-        else if (id->type() == ::Json::arrayValue || id->type() == ::Json::objectValue)
+        if (found.id->type() == ::Json::arrayValue || found.id->type() == ::Json::objectValue)
             return BadReferenceFormat();
-        else
-            form.id = Identifier(id->asString());
-        form.embedded = nullptr;
+        form = {found.id, nullptr};
         return {};
     }
-
-    const auto* const embedded = IfType(FindMember(json, embeddedProperty), ::Json::objectValue);
-    if (embedded == nullptr)
+    if (IfType(found.embedded, ::Json::objectValue) == nullptr)
         return BadReferenceFormat();
-    form.id = Identifier();
-    form.embedded = embedded;
+    form = {nullptr, found.embedded};
     return {};
+}
+
+Identifier IdentifierOf(const JsonObject& scalar)
+{
+    const auto text = IfText(&scalar);
+    return text ? Identifier(*text) : Identifier(scalar.asString());
 }
 
 } // namespace Qiv::DataModel::MediaAssets::Serialization::Json
