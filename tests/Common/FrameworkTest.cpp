@@ -78,7 +78,7 @@ TEST(KnownMembers, FindsWhatALookUpPerKeyFinds)
 
 TEST(KeyTable, ComparesEveryCharacterAndReadsNoFurther)
 {
-    static constexpr std::array<std::string_view, 12> keys{"a",
+    static constexpr std::array<std::string_view, 13> keys{"a",
                                                            "id",
                                                            "xyz",
                                                            "name",
@@ -89,7 +89,8 @@ TEST(KeyTable, ComparesEveryCharacterAndReadsNoFurther)
                                                            "totalCapacity",
                                                            "todTimecodeOnAir",
                                                            "userTimecodeOnAir",
-                                                           "currentTimePointOnAir"};
+                                                           "currentTimePointOnAir",
+                                                           "exactlyTwentyFourLetters"};
     static constexpr KeyTable table(keys);
     for (std::size_t i = 0; i < keys.size(); ++i)
     {

@@ -19,8 +19,8 @@ class KeyTable
 public:
     static constexpr std::size_t notFound = SIZE_MAX;
 
-    /// The keys must outlive the table. Fails to compile as a constant when it finds no places without a
-    /// collision: when two keys are alike in all three, and by chance for more than some 28 keys.
+    /// The keys must outlive the table. Fails to compile as a constant when a key is empty, and when it finds no
+    /// places without a collision: when two keys are alike in all three, and by chance for more than some 28 keys.
     template <std::size_t count>
     constexpr explicit KeyTable(const std::array<std::string_view, count>& keys) : keys_(keys.data())
     {
@@ -37,7 +37,9 @@ public:
     /// The index of the key that is equal to `text`, or `notFound`.
     std::size_t Find(std::string_view text) const noexcept
     {
-        const std::size_t index = text.empty() ? 0 : places_[PlaceOf(text)];
+        if (text.empty())
+            return notFound;
+        const std::size_t index = places_[PlaceOf(text)];
         const auto key = keys_[index];
         return key.size() == text.size() && AreEqual(key.data(), text.data(), key.size()) ? index : notFound;
     }
@@ -77,15 +79,14 @@ private:
         return leftWord == rightWord;
     }
 
-    // Whether two texts of this size are equal. They are short, as keys are, so a call of `std::memcmp` alone would
+    // Whether a key and a text of its size are equal. They are short, as keys are, so a call of `std::memcmp` alone would
     // take longer. The last word overlaps the one before.
     static bool AreEqual(const char* left, const char* right, std::size_t size) noexcept
     {
         using Short = std::uint32_t;
         using Long = std::uint64_t;
         if (size < sizeof(Short))
-            return size == 0 ||
-                   (left[0] == right[0] && left[size / 2] == right[size / 2] && left[size - 1] == right[size - 1]);
+            return left[0] == right[0] && left[size / 2] == right[size / 2] && left[size - 1] == right[size - 1];
         if (size < sizeof(Long))
             return AreEqualAt<Short>(left, right, 0) && AreEqualAt<Short>(left, right, size - sizeof(Short));
         for (std::size_t offset = 0; offset < size - sizeof(Long); offset += sizeof(Long))

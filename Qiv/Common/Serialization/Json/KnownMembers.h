@@ -89,8 +89,8 @@ inline Result CheckType(std::optional<std::string_view> type, std::string_view e
     return !type || *type == expected ? Result() : InvalidType(*type, expected);
 }
 
-/// Calls `visit` with the name and the iterator of each member of an object, in ascending order of the names. Returns the
-/// number of members; 0 for a value that is no object.
+/// Calls `visit` with the name and the iterator of each member of an object, in ascending order of the names. Returns
+/// the number of members; 0 for a value that is no object.
 template <typename Visit>
 std::size_t VisitMembers(const JsonObject& json, const Visit& visit)
 {

@@ -10,8 +10,8 @@
 namespace Qiv::DataModel::MediaAssets::Serialization::Json
 {
 
-/// What JsonToSharedReference finds in the object of a reference, whatever the type of the entity that it refers to: one
-/// of the two members, which live as long as that object.
+/// What JsonToSharedReference finds in the object of a reference, whatever the type of the entity that it refers to:
+/// one of the two members, which live as long as that object.
 struct ReferenceForm
 {
     using JsonObject = Common::Serialization::Json::JsonObject;
