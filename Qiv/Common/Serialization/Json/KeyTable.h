@@ -79,8 +79,8 @@ private:
         return leftWord == rightWord;
     }
 
-    // Whether a key and a text of its size are equal. They are short, as keys are, so a call of `std::memcmp` alone would
-    // take longer. The last word overlaps the one before.
+    // Whether a key and a text of its size are equal. They are short, as keys are, so a call of `std::memcmp` alone
+    // would take longer. The last word overlaps the one before.
     static bool AreEqual(const char* left, const char* right, std::size_t size) noexcept
     {
         using Short = std::uint32_t;

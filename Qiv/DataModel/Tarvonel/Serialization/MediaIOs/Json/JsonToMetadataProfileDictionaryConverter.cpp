@@ -59,31 +59,26 @@ Result JsonToMetadataProfileDictionaryConverter::To(const JsonObject& json, Meta
     // Members of one namespace follow each other, so its profile is looked up once.
     std::string_view currentNamespace;
     GenericMetadataProfile* profile = nullptr;
-    auto member = json.begin();
-    for (auto left = json.size(); left != 0; --left, ++member)
-    {
-        const auto text = IfText(&*member);
-        if (!text)
-            continue;
-        const char* nameEnd = nullptr;
-        const char* const nameBegin = member.memberName(&nameEnd);
-        const std::string_view name(nameBegin, static_cast<std::size_t>(nameEnd - nameBegin));
-        const auto lastDot = name.rfind('.');
-        if (lastDot == std::string_view::npos)
-            continue;
+    VisitMembers(json,
+                 [&](std::string_view name, const auto& member)
+                 {
+                     const auto text = IfText(&*member);
+                     const auto lastDot = name.rfind('.');
+                     if (!text || lastDot == std::string_view::npos)
+                         return;
 
-        const auto profileNamespace = name.substr(0, lastDot);
-        // Not only the operator's own namespace: everything that begins with its name is reserved.
-        if (profileNamespace.substr(0, operatorName.size()) == operatorName)
-            continue;
+                     const auto profileNamespace = name.substr(0, lastDot);
+                     // Not only the operator's own namespace: everything that begins with its name is reserved.
+                     if (profileNamespace.substr(0, operatorName.size()) == operatorName)
+                         return;
 
-        if (profile == nullptr || profileNamespace != currentNamespace)
-        {
-            profile = &GenericProfile(profileNamespace, dictionary);
-            currentNamespace = profileNamespace;
-        }
-        profile->Assign(name.substr(lastDot + 1), *text);
-    }
+                     if (profile == nullptr || profileNamespace != currentNamespace)
+                     {
+                         profile = &GenericProfile(profileNamespace, dictionary);
+                         currentNamespace = profileNamespace;
+                     }
+                     profile->Assign(name.substr(lastDot + 1), *text);
+                 });
     return {};
 }
 
