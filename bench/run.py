@@ -4,9 +4,11 @@ the table and a picture to bench/results/."""
 
 import json
 import pathlib
+import shutil
 import statistics
 import subprocess
 import sys
+import tempfile
 
 # work, peer, the ratio that is wanted at most
 GOALS = {
@@ -28,28 +30,32 @@ GOALS = {
     ("time code: format", "snprintf"): 0.17,
     ("duration: check and parse", "std::regex"): 0.03,
 }
-PROCESSES = 9  # each has its own layout of addresses, which alone changes times by several per cent
+ROUNDS = 9  # each with copies of the program and the libraries: their places in memory change times by up to a sixth
 REPETITIONS = 5
 
 
-def run(program, *options):
-    return subprocess.run([program, *options], check=True, stdout=subprocess.PIPE, text=True).stdout
+def run(program, *options, **settings):
+    return subprocess.run([program, *options], check=True, stdout=subprocess.PIPE, text=True, **settings).stdout
 
 
-def measure(program):
-    """The times of each work by who does it, a median for each process. A process does one work, by all in turn: the
+def measure(build):
+    """The times of each work by who does it, a median for each round. A process does one work, by all in turn: the
     machine may be slower a second later."""
-    names = run(program, "--benchmark_list_tests").splitlines()
+    names = run(build / "bin/qiv_bench", "--benchmark_list_tests").splitlines()
     times = {}
-    for work in dict.fromkeys(name.split("|")[0] for name in names):
-        by_who = times.setdefault(work, {})
-        for _ in range(PROCESSES):
-            report = json.loads(run(program, f"--benchmark_filter=^{work}[|]", "--benchmark_format=json",
-                                    f"--benchmark_repetitions={REPETITIONS}", "--benchmark_min_time=0.02",
-                                    "--benchmark_enable_random_interleaving=true"))
-            for result in report["benchmarks"]:
-                if result.get("aggregate_name") == "median":
-                    by_who.setdefault(result["run_name"].split("|")[1], []).append(result["cpu_time"])
+    for _ in range(ROUNDS):
+        with tempfile.TemporaryDirectory() as folder:
+            program = shutil.copy(build / "bin/qiv_bench", folder)
+            libraries = shutil.copytree(build / "lib", pathlib.Path(folder) / "lib", symlinks=True)
+            for work in dict.fromkeys(name.split("|")[0] for name in names):
+                report = json.loads(run(
+                    program, f"--benchmark_filter=^{work}[|]", "--benchmark_format=json", "--benchmark_min_time=0.02",
+                    f"--benchmark_repetitions={REPETITIONS}", "--benchmark_enable_random_interleaving=true",
+                    env={"LD_LIBRARY_PATH": str(libraries)}))
+                for result in report["benchmarks"]:
+                    if result.get("aggregate_name") == "median":
+                        who = result["run_name"].split("|")[1]
+                        times.setdefault(work, {}).setdefault(who, []).append(result["cpu_time"])
     return times
 
 
@@ -96,11 +102,11 @@ def picture(rows):
 
 
 def main():
-    build = pathlib.Path(sys.argv[1]) / "bin"
+    build = pathlib.Path(sys.argv[1])
     results = pathlib.Path(__file__).parent / "results"
     results.mkdir(exist_ok=True)
-    times = measure(str(build / "qiv_bench"))
-    counted = run(str(build / "qiv_allocations"))
+    times = measure(build)
+    counted = run(build / "bin/qiv_allocations")
     rows = sorted(ratios(times), key=lambda row: (row[0], row[2]))
     table = markdown(rows, times, [line.split("|") for line in counted.splitlines()])
     print(table)
