@@ -48,7 +48,7 @@ DocumentKind KindOf(const std::unique_ptr<Boundary>&)
     return DocumentKind::Boundary;
 }
 
-// Whether any document that is read as this kind can. An inspection takes several times as long as the reading.
+// Whether any document that is read as this kind can. An inspection takes more than twice as long as the reading.
 bool CanEndTheProcess(DocumentKind kind)
 {
     return kind == DocumentKind::MediaOutput || kind == DocumentKind::Boundary;
