@@ -13,7 +13,7 @@ namespace Qiv::Common::Serialization::Json
 /// Finds a text in a small set of keys. The text's length and its first and last character lead to the only key that
 /// can be equal to it, since no two keys of the set share the place that these have in the table.
 ///
-/// Neither a loop nor an order depends on the text, so that a walk over keys of many lengths mispredicts few branches.
+/// So a text is compared with one key at most, without a search, however many keys there are.
 class KeyTable
 {
 public:
@@ -79,8 +79,8 @@ private:
         return leftWord == rightWord;
     }
 
-    // Whether a key and a text of its size are equal. They are short, as keys are, so a call of `std::memcmp` alone
-    // would take longer. The last word overlaps the one before.
+    // Whether a key and a text of its size are equal. Not by `std::memcmp`, which takes more instructions for texts as
+    // short as keys are. The last word overlaps the one before.
     static bool AreEqual(const char* left, const char* right, std::size_t size) noexcept
     {
         using Short = std::uint32_t;

@@ -56,7 +56,7 @@ Result JsonToMetadataProfileDictionaryConverter::To(const JsonObject& json, Meta
 
     ReadOperatorProfile(json, dictionary);
 
-    // Members of one namespace follow each other, so its profile is looked up once.
+    // Members of one namespace mostly follow each other; then its profile is looked up once.
     std::string_view currentNamespace;
     GenericMetadataProfile* profile = nullptr;
     VisitMembers(json,
