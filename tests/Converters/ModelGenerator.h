@@ -27,7 +27,7 @@ public:
         static const auto rules = []
         {
             std::map<std::string, std::vector<std::string>> read;
-            for (const auto& line : Lines("Converters/cases/model.txt"))
+            for (const auto& line : Lines("cases/model.txt"))
                 read[Split(line, " = ").at(0)] = Split(Split(line, " = ").at(1), " | ");
             return read;
         }();

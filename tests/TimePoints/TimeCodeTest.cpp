@@ -6,7 +6,7 @@
 #include <Qiv/TimePoints/QivTimeCodeParser.h>
 #include <Qiv/TimePoints/TimeCodeBuilder.h>
 
-#include "Cases.h"
+#include "CaseFiles.h"
 #include "ThrownText.h"
 
 #include <gtest/gtest.h>
@@ -168,7 +168,8 @@ TEST(TimeCode, KeepsTheKnownCounts)
     EXPECT_EQ(drop30.AddSkippedHmsSamplesInNtscDrop(17982), 18000);
     EXPECT_EQ(drop30.AddSkippedHmsSamplesInNtscDrop(2589408), 0);
     EXPECT_EQ(TimeCode().ToString(), "1900-01-01T00:00:00:00@50");
-    EXPECT_TRUE(TimeCode().IsEmpty() && TimeCode() == TimeCode(0, false, Rate(50, 1), true));
+    EXPECT_TRUE(TimeCode().IsEmpty());
+    EXPECT_EQ(TimeCode(), TimeCode(0, false, Rate(50, 1), true));
     EXPECT_FALSE(TimeCode(0, true, Rate(25), true).IsDrop());
     EXPECT_EQ(CalendarTools::DayPerMonth(2000, 0) + CalendarTools::DayPerMonth(true, 13), 0);
 }
@@ -207,50 +208,56 @@ TEST(TimeCode, MovesAndComparesByExistingLabels)
     EXPECT_EQ(timeCode, before);
     EXPECT_EQ((before + 2589408).ToString(), "2016-03-22T00:00:59;29@30");
     EXPECT_EQ((before - 30).ToString(), "2016-03-21T00:00:58;29@30");
-    EXPECT_TRUE(before < before + 1 && before + 1 > before && before <= before && before >= before);
-    EXPECT_FALSE(before < before || before > before || before >= before + 1 || before + 1 <= before);
+    for (const std::int64_t distance : {-1, 0, 1})
+    {
+        EXPECT_EQ(before<before + distance, distance> 0);
+        EXPECT_EQ(before > before + distance, distance < 0);
+        EXPECT_EQ(before <= before + distance, distance >= 0);
+        EXPECT_EQ(before >= before + distance, distance <= 0);
+    }
 
     const TimeCode undated(before.TotalSample(), true, Rate(30), false);
-    EXPECT_TRUE(undated != before && undated <= before && undated >= before && undated.IsCompatible(before));
+    EXPECT_NE(undated, before);
+    EXPECT_LE(undated, before);
+    EXPECT_GE(undated, before);
+    EXPECT_TRUE(undated.IsCompatible(before));
     const TimeCode nonDrop(before.TotalSample(), false, Rate(30), true);
     for (const auto& use : {+[](const TimeCode&a, const TimeCode&b) { a.Substract(b); },
                             +[](const TimeCode&a, const TimeCode&b) { static_cast<void>(a < b); }})
     {
         const auto text = ThrownText<std::invalid_argument>([&] { use(before, nonDrop); });
-        EXPECT_TRUE(text.find(before.ToString()) < text.find(nonDrop.ToString()) &&
-                    text.find(nonDrop.ToString()) != std::string::npos)
-            << text;
+        EXPECT_NE(text.find(nonDrop.ToString(), text.find(before.ToString())), std::string::npos) << text;
     }
 }
 
-TEST(TimeCodeBuilder, ReportsTheFirstFailedCheck)
+void CheckFields(const Tests::Case& each)
 {
-    const auto error = [](const TimeCodeBuilder& builder) -> std::string
-    {
-        const TimeCode before(7, false, Rate(7), true);
-        TimeCode built = before;
-        EXPECT_EQ(builder.TryBuild(built), builder.IsValidToBuild());
-        EXPECT_EQ(built != before, builder.IsValidToBuild());
-        const auto text = ThrownText<std::out_of_range>([&] { EXPECT_EQ(builder.Build(), built); });
-        EXPECT_EQ(ThrownText<std::out_of_range>([&] { EXPECT_TRUE(builder.IsValidToBuildWithexception()); }), text);
-        return text == "nothing thrown" ? "" : text;
-    };
-    for (const auto& line : Tests::Lines("TimePoints/cases/fields.txt"))
-    {
-        int year, month, day, hour, minute, second, sample, numerator, denominator;
-        char separator;
-        ASSERT_EQ(std::sscanf(line.c_str(), "%d-%d-%d %d:%d:%d%c%d@%d/%d", &year, &month, &day, &hour, &minute, &second,
-                              &separator, &sample, &numerator, &denominator),
-                  10);
-        auto builder = TimeCodeBuilder().ClockTime(hour, minute, second, sample).IsDrop(separator == ';');
-        builder.Date(year, month, day).Rate(Rate(numerator, denominator));
-        EXPECT_EQ(error(builder), Tests::Split(line + " !! ", " !! ")[1]) << line;
-    }
-    EXPECT_EQ(error(TimeCodeBuilder().Day(32)), "day 32is negative or greater than 31 in month 1"); // also without date
-    EXPECT_THROW(TimeCode(24, 0, 0, 0, Rate(25), false), std::out_of_range);
+    const auto field = [&](const char* list, int i) { return each[list][i].asInt(); };
+    auto builder =
+        TimeCodeBuilder().ClockTime(field("clock", 0), field("clock", 1), field("clock", 2), field("clock", 3));
+    builder.Date(field("date", 0), field("date", 1), field("date", 2)).IsDrop(each["isDropFrame"].asBool());
+    builder.Rate(Rate(field("rate", 0), field("rate", 1)));
+    const auto message = each.Has("message") ? each.Text("message") : "nothing thrown";
+    EXPECT_EQ(builder.IsValidToBuild(), each.Has("written"));
+    EXPECT_EQ(ThrownText<std::out_of_range>([&] { builder.IsValidToBuildWithexception(); }), message);
+    TimeCode built;
+    EXPECT_EQ(ThrownText<std::out_of_range>([&] { built = builder.Build(); }), message);
+    EXPECT_EQ(each.Has("written") ? built.ToString() : "", each.Text("written"));
+}
+const bool areRegistered = Tests::RegisterCases("timepoints/Fields.json", CheckFields);
+
+TEST(TimeCodeBuilder, HoldsTheFirstLabelOf1970WithoutDate)
+{
     EXPECT_EQ(TimeCodeBuilder().Build(), TimeCode(25567LL * 86400 * 50, false, Rate(50), false));
     EXPECT_TRUE(TimeCodeBuilder().Date(2000, 1, 1).ClockTime(1, 2, 3, 4).Build().HasDate());
     EXPECT_EQ(TimeCodeBuilder().Date(2000, 1, 1).HasDate(false).Build(), TimeCodeBuilder().Build());
+}
+
+TEST(TimeCodeBuilder, ChecksTheDateAlsoWithoutOne)
+{
+    EXPECT_EQ(ThrownText<std::out_of_range>([] { TimeCodeBuilder().Day(32).Build(); }),
+              "day 32is negative or greater than 31 in month 1");
+    EXPECT_THROW(TimeCode(24, 0, 0, 0, Rate(25), false), std::out_of_range);
 }
 
 } // namespace
