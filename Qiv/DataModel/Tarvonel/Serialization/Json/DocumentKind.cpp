@@ -39,4 +39,22 @@ std::optional<DocumentKind> KindOf(const JsonObject& document) noexcept
     return std::nullopt;
 }
 
+std::string_view IdOf(const JsonObject& document) noexcept
+{
+    const auto kind = KindOf(document);
+    const auto hasIdentifier =
+        kind == DocumentKind::MediaInput || kind == DocumentKind::MediaOutput || kind == DocumentKind::Node;
+    return hasIdentifier ? IfText(FindMember(document, "id")).value_or(std::string_view()) : std::string_view();
+}
+
+std::string_view ToString(DocumentKind kind) noexcept
+{
+    if (kind == DocumentKind::Boundary) // the only kind with two tags
+        return "Boundary";
+    for (const auto& tag : tags)
+        if (kind == tag.kind)
+            return tag.text;
+    return "unknown";
+}
+
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json

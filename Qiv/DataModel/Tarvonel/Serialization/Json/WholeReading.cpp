@@ -8,6 +8,9 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToSpeedConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/JsonToNodeConverter.h>
 
+#include <memory>
+#include <stdexcept>
+
 namespace Qiv::DataModel::Tarvonel::Serialization::Json
 {
 
@@ -32,6 +35,18 @@ public:
 };
 
 } // namespace
+
+std::unique_ptr<MediaIO> IndependentCopy(const MediaIO& channel)
+{
+    switch (channel.GetMode())
+    {
+    case MediaIO::Mode::Input:
+        return std::make_unique<MediaInput>(IndependentCopy(static_cast<const MediaInput&>(channel)));
+    case MediaIO::Mode::Output:
+        return std::make_unique<MediaOutput>(IndependentCopy(static_cast<const MediaOutput&>(channel)));
+    }
+    throw std::invalid_argument("Unsupported MediaIO type - should be MediaInput or MediaOutput");
+}
 
 Result MergeWhole(const JsonObject& json, MediaIO& channel)
 {

@@ -50,6 +50,10 @@ Entity IndependentCopy(const Entity& entity)
     }
 }
 
+/// The same of a channel of either kind; see `Channels::Clone`.
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT std::unique_ptr<Tarvonel::MediaIOs::MediaIO>
+IndependentCopy(const Tarvonel::MediaIOs::MediaIO& channel);
+
 /// Whole reading with any reader, of any entity that can be copied.
 template <typename Entity>
 Common::Serialization::Result MergeWhole(const Common::Serialization::Json::FromJsonConverter<Entity>& reader,

@@ -1,0 +1,182 @@
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
+
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/HaveEqualContent.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ToText.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
+
+#include "ExampleDocuments.h"
+#include "ThrownText.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <type_traits>
+#include <utility>
+
+namespace Qiv::Tests
+{
+
+using namespace DataModel::Tarvonel::MediaIOs;
+using namespace DataModel::Tarvonel::Serialization::Json;
+using namespace DataModel::Tarvonel::Serialization::Json::Documents;
+using Common::Serialization::Json::JsonObject;
+
+namespace
+{
+
+std::string Told(const AnyResult& result)
+{
+    return result ? "read"
+                  : std::to_string(result.Position().line) + ':' + std::to_string(result.Position().column) + ' ' +
+                        result.Pointer() + ": " + result.ErrorMessage();
+}
+
+} // namespace
+
+TEST(AnyDocument, ComesBackAsItIsWritten)
+{
+    for (const auto& text : ExampleDocuments())
+    {
+        SCOPED_TRACE(text);
+        JsonObject json;
+        ASSERT_TRUE(ParseText(text, json));
+        const auto fromText = ReadAnyText(text);
+        const auto fromJson = ReadAny(json);
+        ASSERT_EQ(Told(fromText), "read");
+        ASSERT_EQ(Told(fromJson), "read");
+        EXPECT_EQ(ToText(fromText.Entity()), text);
+        EXPECT_EQ(ToText(fromJson.Entity()), text);
+        EXPECT_EQ(KindOf(fromText.Entity()), KindOf(json));
+        EXPECT_EQ(IdOf(fromText.Entity()).Value(), IdOf(json));
+        EXPECT_EQ(IdOf(json), json.get("id", "").asString()) << "no example has an identifier that is not its own";
+        JsonObject pretty;
+        ASSERT_TRUE(ParseText(ToText(fromText.Entity(), Layout::Pretty), pretty));
+        EXPECT_EQ(pretty, json);
+        if (const auto* const channel = ChannelOf(fromText.Entity()))
+        {
+            EXPECT_EQ(ToText(*channel), text);
+        }
+    }
+}
+
+TEST(AnyDocument, IsRefusedWithTheReadersTextAndItsPlace)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"{\"_type\":", "1:10 : "},
+        {"{}", "1:1 : MediaIO is empty"},
+        {"[]", "1:1 : MediaIO is empty"},
+        {R"({"id":"x"})", "1:1 : Invalid JSON type (undefined)"},
+        {R"({"_type":"TimePoint","value":"1"})",
+         "1:10 /_type: Invalid JSON type ('TimePoint') : 'MediaInput' or 'MediaOutput' expected"},
+        {"{\"_type\":\"MediaOutput\",\n \"speedOnAir\":{}}", "2:15 /speedOnAir: Speed is empty"},
+        {R"({"_type":"Node"})", "1:1 : Node has no identifier (required)"},
+        {R"({"_type":"BoundaryRelative","origin":"Absolute"})",
+         "1:38 /origin: \"Absolute\" is the origin of a relative boundary, which ends the process"},
+        {R"({"_type":"MediaOutput","currentTimePointOnAir":{"_type":"TimePoint","value":"now"}})",
+         "1:77 /currentTimePointOnAir/value: \"now\" does not begin with a number, which ends the process"},
+        // A player's members in a document of another kind: nothing reads them.
+        {R"({"_type":"MediaInput","currentTimePointOnAir":{"_type":"TimePoint","value":"now"}})", "read"},
+    };
+    for (const auto& [text, told] : cases)
+    {
+        const auto result = ReadAnyText(text);
+        EXPECT_EQ(Told(result).substr(0, std::string(told).size()), told) << text;
+        JsonObject json;
+        if (!ParseText(text, json))
+            continue;
+        const auto fromJson = ReadAny(json);
+        EXPECT_EQ(fromJson.ErrorMessage(), result.ErrorMessage()) << text;
+        EXPECT_EQ(fromJson.Pointer(), result.Pointer()) << text;
+    }
+    for (const auto* const notAnObject : {"null", "1", "\"{}\""}) // which ParseText lets nobody have
+        EXPECT_EQ(ReadAny(JsonObject(notAnObject)).ErrorMessage(), "MediaIO is empty");
+    EXPECT_THROW(ReadAnyText("{}").Entity(), std::bad_optional_access);
+}
+
+TEST(AnyDocument, HasAnIdentifierOnlyWhereAReaderTakesOne)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {R"({"_type":"Node","id":"n"})", "n"},
+        {R"({"_type":"Node","id":7})", ""},
+        {R"({"_type":"Node"})", ""},
+        {R"({"_type":"Speed","id":"n"})", ""},
+        {R"({"id":"n"})", ""},
+        {"[]", ""},
+    };
+    for (const auto& [text, id] : cases)
+    {
+        JsonObject json;
+        ASSERT_TRUE(ParseText(text, json));
+        EXPECT_EQ(IdOf(json), id) << text;
+    }
+}
+
+namespace
+{
+
+// Whether the functions for a `Json::Value` take a `T`.
+template <typename T, typename = void>
+struct Taken : std::false_type
+{
+};
+template <typename T>
+struct Taken<T, std::void_t<decltype(ReadAny(std::declval<T>()))>> : std::true_type
+{
+};
+template <typename T, typename = void>
+struct IsAsked : std::false_type
+{
+};
+template <typename T>
+struct IsAsked<T, std::void_t<decltype(KindOf(std::declval<T>()), IdOf(std::declval<T>()))>> : std::true_type
+{
+};
+
+template <typename... Texts>
+constexpr bool noTextIsTaken = !(Taken<Texts>::value || ...) && !(IsAsked<Texts>::value || ...);
+static_assert(Taken<const JsonObject&>::value && IsAsked<const JsonObject&>::value);
+static_assert(noTextIsTaken<const char*, const char (&)[3], std::string, std::string&, std::string_view>);
+
+} // namespace
+
+TEST(ToText, ThrowsTheTextOfAWriterThatFails)
+{
+    const BoundaryRelative boundary(BoundaryOrigin::Absolute, 3);
+    EXPECT_EQ(ThrownText<std::invalid_argument>([&] { static_cast<void>(ToText(boundary)); }), "Null BoundaryAbsolute");
+    EXPECT_EQ(ToText(Speed(1, 2), Layout::Pretty),
+              "{\n  \"_type\": \"Speed\",\n  \"numerator\": 1,\n  \"denominator\": 2\n}");
+}
+
+// The channels here are equal by ==.
+TEST(HaveEqualContent, SeesWhatEqualityPassesOver)
+{
+    const auto reference = [](const char* id, const char* name)
+    {
+        auto asset = std::make_shared<DataModel::MediaAssets::MediaAsset>();
+        asset->Id(BusinessEntityModel::BaseTypes::Identifier(id));
+        asset->Name(name);
+        MediaOutput channel;
+        channel.MediaAssetOnAir(asset);
+        return channel;
+    };
+    const auto goal = reference("a1", "Goal");
+    auto byIdOnly = goal;
+    byIdOnly.MediaAssetOnAir(BusinessEntityModel::BaseTypes::Identifier("a1"));
+    auto half = goal, twoQuarters = goal;
+    half.SpeedOnAir(Speed(1, 2));
+    twoQuarters.SpeedOnAir(Speed(2, 4));
+    const std::pair<MediaOutput, MediaOutput> cases[] = {
+        {goal, reference("a1", "Gaol")}, {goal, byIdOnly}, {half, twoQuarters}};
+    for (const auto& [left, right] : cases)
+    {
+        EXPECT_TRUE(left == right);
+        EXPECT_TRUE(HaveEqualContent(left, left));
+        EXPECT_FALSE(HaveEqualContent(left, right));
+        EXPECT_FALSE(HaveEqualContent(static_cast<const MediaIO&>(left), AnyEntity(right)));
+    }
+    EXPECT_FALSE(HaveEqualContent(MediaInput(), MediaOutput()));
+    EXPECT_FALSE(HaveEqualContent(BoundaryRelative(BoundaryOrigin::Absolute, 3), BoundaryAbsolute()));
+}
+
+} // namespace Qiv::Tests
