@@ -2,6 +2,7 @@
 # Checks what users of the installed package rely on. CXX and CXXFLAGS are those of the libraries.
 #   check.sh installed BUILD            installs, moves the tree, looks at the libraries, builds the consumer twice
 #   check.sh symbols BUILD [--write]    exported symbols against tests/abi, or writes those lists
+#   check.sh hardened BUILD             guards of the compiler and the linker in all that is installed
 #   check.sh packages FOLDER ARCH       unpacks the Debian packages, builds the consumer against them, runs the tool
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -93,6 +94,21 @@ check_symbols() # BUILD [--write]
     done
     [[ ${2:-} == --write ]] || (($(ls "$here"/../abi/*.symbols | wc -l) == $(ls "$1"/lib/lib*.so | wc -l))) ||
         fail "not one list a library"
+}
+
+check_hardened() # BUILD
+{
+    local file header dynamic flag
+    for file in "$1"/lib/lib*.so "$1/bin/tarvonel-json"; do
+        header=$(readelf -lW "$file")
+        dynamic=$(readelf -dW "$file")
+        [[ $header == *GNU_RELRO* && $dynamic == *BIND_NOW* ]] || fail "$file can be written to after its relocation"
+    done
+    for flag in -fstack-protector-strong -D_FORTIFY_SOURCE=2 $(uname -m | sed -n 's/^x86_64$/-fcf-protection/p'); do
+        # Sources, not the headers that are compiled to see that they stand alone.
+        ! grep -E '"command":.*[.]cpp",$' "$1/compile_commands.json" | grep -vFm1 -e " $flag " >&2 ||
+            fail "compiled without $flag, see above"
+    done
 }
 
 check_packages() # FOLDER ARCHITECTURE
