@@ -125,8 +125,8 @@ void Check(const std::vector<std::string>& texts, Enumeration (&convert)(const s
         const auto value = static_cast<Enumeration>(i);
         EXPECT_EQ(ToString(value), texts[i]);
         EXPECT_EQ(convert(texts[i]), value) << texts[i];
-        EXPECT_EQ(To<Enumeration>(texts[i]), value) << texts[i];
         const std::string buffer = '"' + texts[i] + '"';
+        EXPECT_EQ(To<Enumeration>(std::string_view(buffer).substr(1, texts[i].size())), value) << texts[i];
         auto read = static_cast<Enumeration>(-1);
         EXPECT_TRUE(FromText(std::string_view(buffer).substr(1, texts[i].size()), read)) << texts[i];
         EXPECT_EQ(read, value) << texts[i];

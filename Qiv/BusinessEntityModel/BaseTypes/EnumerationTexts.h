@@ -87,7 +87,7 @@ bool FindEnumerator(const EnumerationText<Enumeration> (&texts)[count], std::str
 /// The enumerator of `Enumeration` whose text is `text`, or the enumeration's default for unknown text; for example
 /// To<RecordingStatus>("Pause"). The namespaces of the enumerations offer it under this name too.
 template <typename Enumeration>
-Enumeration To(const std::string& text)
+Enumeration To(std::string_view text) noexcept
 {
     Enumeration value{};
     static_cast<void>(FromText(text, value)); // an unknown text has set the default

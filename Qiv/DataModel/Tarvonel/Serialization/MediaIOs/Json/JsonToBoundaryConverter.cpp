@@ -17,6 +17,7 @@ using Tarvonel::MediaIOs::Boundary;
 using Tarvonel::MediaIOs::BoundaryAbsolute;
 using Tarvonel::MediaIOs::BoundaryOrigin;
 using Tarvonel::MediaIOs::BoundaryRelative;
+using Tarvonel::MediaIOs::To;
 using TimePoints::TimePoint;
 
 namespace
@@ -61,8 +62,7 @@ Result ReadAbsolute(const BoundaryMembers& members, std::unique_ptr<Boundary>& b
 
     if (const auto text = members.Text(Key::Origin))
     {
-        auto origin = BoundaryOrigin::RelativeToCorrespondingMediaBoundary;
-        static_cast<void>(FromText(*text, origin)); // an unknown text gives the default
+        const auto origin = To<BoundaryOrigin>(*text);
         // Ends the process, since the callers are declared not to throw. Kept: callers rely on a relative boundary
         // never being read as an absolute one.
         if (origin == BoundaryOrigin::Absolute)

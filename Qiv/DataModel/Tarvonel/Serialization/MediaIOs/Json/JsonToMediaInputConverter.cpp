@@ -14,6 +14,7 @@ using MediaAssets::TimecodePrimary;
 using MediaAssets::Serialization::Json::JsonToTimePointConverter;
 using Tarvonel::MediaIOs::MediaInput;
 using Tarvonel::MediaIOs::RecordingStatus;
+using Tarvonel::MediaIOs::To;
 using TimePoints::TimePoint;
 
 JsonToMediaInputConverter::~JsonToMediaInputConverter() = default;
@@ -38,7 +39,7 @@ Result JsonToMediaInputConverter::Append(const JsonObject& json, MediaInput& cha
 Result Details::AppendInput(const ChannelMembers& members, MediaInput& channel) noexcept
 {
     if (const auto text = members.Text(ChannelKey::RecordingStatus))
-        channel.RecordingStatus(EnumeratorOf<RecordingStatus>(*text));
+        channel.RecordingStatus(To<RecordingStatus>(*text));
 
     if (const auto* lastTimePoint = members.Any(ChannelKey::LastTimePoint))
     {
@@ -57,7 +58,7 @@ Result Details::AppendInput(const ChannelMembers& members, MediaInput& channel) 
         channel.LastUserTimecode(*timeCode);
 
     if (const auto text = members.Text(ChannelKey::PrimaryTimecodeType))
-        channel.PrimaryTimecodeType(EnumeratorOf<TimecodePrimary>(*text));
+        channel.PrimaryTimecodeType(To<TimecodePrimary>(*text));
 
     // The remaining capacity before the total: the setters adjust each other, and so both end as given.
     if (auto duration = DurationOf(members, ChannelKey::RemainingCapacity))

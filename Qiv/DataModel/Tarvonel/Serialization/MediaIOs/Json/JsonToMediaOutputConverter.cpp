@@ -26,6 +26,7 @@ using Tarvonel::MediaIOs::PlayingLoopMode;
 using Tarvonel::MediaIOs::PlayingStatus;
 using Tarvonel::MediaIOs::SequenceOutput;
 using Tarvonel::MediaIOs::Speed;
+using Tarvonel::MediaIOs::To;
 using TimePoints::Duration;
 using TimePoints::QivDurationParser;
 using TimePoints::TimePoint;
@@ -88,7 +89,7 @@ Result JsonToMediaOutputConverter::Append(const JsonObject& json, MediaOutput& c
 Result Details::AppendOutput(const ChannelMembers& members, MediaOutput& channel) noexcept
 {
     if (const auto text = members.Text(ChannelKey::PlayingStatus))
-        channel.PlayingStatus(EnumeratorOf<PlayingStatus>(*text));
+        channel.PlayingStatus(To<PlayingStatus>(*text));
 
     if (const auto* speedOnAir = members.Object(ChannelKey::SpeedOnAir))
     {
@@ -99,7 +100,7 @@ Result Details::AppendOutput(const ChannelMembers& members, MediaOutput& channel
     }
 
     if (const auto text = members.Text(ChannelKey::GlobalLoopMode))
-        channel.GlobalLoopMode(EnumeratorOf<PlayingLoopMode>(*text));
+        channel.GlobalLoopMode(To<PlayingLoopMode>(*text));
 
     if (auto duration = DurationOf(members, ChannelKey::RemainingTime))
         channel.RemainingTime(*duration);
@@ -127,7 +128,7 @@ Result Details::AppendOutput(const ChannelMembers& members, MediaOutput& channel
         channel.UserTimecodeOnAir(*timeCode);
 
     if (const auto text = members.Text(ChannelKey::PrimaryTimecodeType))
-        channel.PrimaryTimecodeType(EnumeratorOf<TimecodePrimary>(*text));
+        channel.PrimaryTimecodeType(To<TimecodePrimary>(*text));
 
     if (const auto* inBoundary = members.Object(ChannelKey::InBoundary))
     {

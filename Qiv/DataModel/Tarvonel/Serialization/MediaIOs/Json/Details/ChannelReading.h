@@ -76,15 +76,6 @@ std::optional<TimePoints::TimeCode> TimeCodeOf(const ChannelMembers& members, Ch
 /// The duration of a member `{"_type":"Duration","value":"<nanoseconds>"}`; nothing when it has another form.
 std::optional<TimePoints::Duration> DurationOf(const ChannelMembers& members, ChannelKey key) noexcept;
 
-/// The enumerator that a text names, or the default of its enumeration.
-template <typename Enumeration>
-Enumeration EnumeratorOf(std::string_view text) noexcept
-{
-    Enumeration value{};
-    static_cast<void>(FromText(text, value)); // an unknown text has set the default
-    return value;
-}
-
 // The work of the readers' Append operations, each beside the reader of that name.
 Common::Serialization::Result AppendCommon(const ChannelMembers& members, Tarvonel::MediaIOs::MediaIO& channel);
 Common::Serialization::Result AppendInput(const ChannelMembers& members,
