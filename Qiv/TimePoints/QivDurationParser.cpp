@@ -1,9 +1,12 @@
 #include <Qiv/TimePoints/QivDurationParser.h>
 
-#include <Qiv/TimePoints/Details/EightCharacters.h>
+#include <Qiv/TimePoints/Details/Digits.h>
+#include <Qiv/TimePoints/Details/Wrapping.h>
 
+#include <charconv>
 #include <cstdint>
 #include <stdexcept>
+#include <system_error>
 
 namespace Qiv::TimePoints
 {
@@ -41,34 +44,24 @@ bool QivDurationParser::TryRead(std::string_view text, Duration& duration) noexc
     const bool isNegative = !text.empty() && text[0] == '-';
     if (isNegative || (!text.empty() && text[0] == '+'))
         text.remove_prefix(1);
-    if (text.empty())
-        return false;
 
     std::uint64_t value = 0;
-    bool isTooLarge = false;
-    if (text.size() >= 8 && text.size() <= 19) // cannot be too large
-    {
-        std::uint64_t wrong = 0;
-        value = Details::ReadDigits(text, wrong);
-        if (wrong != 0)
-            return false;
-    }
+    if (const auto number = Details::DigitsToNumber(text))
+        value = *number;
     else
     {
-        for (const char character : text)
+        const char* const end = text.data() + text.size();
+        const auto [stop, error] = std::from_chars(text.data(), end, value);
+        if (stop != end || error == std::errc::invalid_argument)
+            return false;
+        if (error == std::errc::result_out_of_range)
         {
-            const unsigned digit = Details::DigitValue(character);
-            if (digit > 9)
-                return false;
-            isTooLarge |= value > UINT64_MAX / 10 || (value == UINT64_MAX / 10 && digit > UINT64_MAX % 10);
-            value = 10 * value + digit;
+            duration = Duration(-1); // whatever the sign: what reading an unsigned number from a stream gives
+            return true;
         }
     }
-    if (isTooLarge)
-        value = UINT64_MAX; // whatever the sign: what reading an unsigned number from a stream gives
-    else if (isNegative)
-        value = 0 - value;
-    duration = Duration(static_cast<std::int64_t>(value));
+    const auto nanoseconds = Details::Wrap(value);
+    duration = Duration(isNegative ? Details::WrappingSubtract(0, nanoseconds) : nanoseconds);
     return true;
 }
 

@@ -1,8 +1,7 @@
 #include <Qiv/TimePoints/QivTimeCodeParser.h>
 
-#include <Qiv/TimePoints/Details/EightCharacters.h>
+#include <Qiv/TimePoints/Details/Digits.h>
 #include <Qiv/TimePoints/Details/TimeCodeFields.h>
-#include <Qiv/TimePoints/TimeCodeBuilder.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -20,56 +19,53 @@ enum class Form
     Right
 };
 
-constexpr std::size_t dateLength = 11;  // "2016-03-21T"
-constexpr std::size_t clockLength = 12; // "14:05:09:17@"
+constexpr std::size_t dateLength = std::string_view("2016-03-21T").size();
+constexpr std::size_t clockLength = std::string_view("14:05:09:17@").size();
 
-constexpr std::int32_t NumberAt(std::uint64_t numbers, int index) noexcept
+/// Reads two digits, the first of which is at most `highestTens`; false when there is anything else.
+bool ReadTwoDigits(const char* text, unsigned highestTens, std::int32_t& number) noexcept
 {
-    return static_cast<std::int32_t>((numbers >> (8 * index)) & 0xFF);
+    const unsigned tens = Details::DigitValue(text[0]);
+    const unsigned ones = Details::DigitValue(text[1]);
+    if (tens > highestTens || ones > 9)
+        return false;
+    number = static_cast<std::int32_t>(10 * tens + ones);
+    return true;
 }
 
-/// The last five characters of the first half are the first five of the second.
-[[gnu::always_inline]] inline void ReadDate(const char* text, std::uint64_t& wrong, Details::Date& date) noexcept
+bool ReadDate(const char* text, Details::Date& date) noexcept
 {
-    constexpr Details::Shape first("0000-00-", "99990190");
-    constexpr Details::Shape second("0-00-00T", "90190390");
-    const std::uint64_t numbers = first.Read(Details::LoadEight(text), wrong);
-    wrong |= text[0] == '0' ? 1U : 0U;
-    date.year = 100 * NumberAt(numbers, 0) + NumberAt(numbers, 2);
-    date.month = NumberAt(numbers, 5);
-    date.day = NumberAt(second.Read(Details::LoadEight(text + 3), wrong), 5);
+    std::int32_t century = 0;
+    std::int32_t year = 0;
+    const bool hasForm = text[0] != '0' && ReadTwoDigits(text, 9, century) && ReadTwoDigits(text + 2, 9, year) &&
+                         text[4] == '-' && ReadTwoDigits(text + 5, 1, date.month) && text[7] == '-' &&
+                         ReadTwoDigits(text + 8, 3, date.day) && text[10] == 'T';
+    date.year = 100 * century + year;
+    return hasForm;
 }
 
-/// The last four characters of the first half are the first four of the second.
-[[gnu::always_inline]] inline void ReadClock(const char* text, std::uint64_t& wrong, Details::Clock& clock) noexcept
+bool ReadClock(const char* text, Details::Clock& clock) noexcept
 {
-    constexpr Details::Shape first("00:00:00", "29059059");
-    constexpr Details::Shape second("0:00:00@", "90591990");
-    const std::uint64_t numbers = first.Read(Details::LoadEight(text), wrong);
-    clock.hour = NumberAt(numbers, 0);
-    clock.minute = NumberAt(numbers, 3);
-    clock.second = NumberAt(numbers, 6);
-    clock.sample = NumberAt(second.Read(Details::LoadEight(text + 4), wrong), 5);
+    return ReadTwoDigits(text, 2, clock.hour) && text[2] == ':' && ReadTwoDigits(text + 3, 5, clock.minute) &&
+           text[5] == ':' && ReadTwoDigits(text + 6, 5, clock.second) && (text[8] == ':' || text[8] == ';') &&
+           ReadTwoDigits(text + 9, 9, clock.sample) && text[11] == '@';
 }
 
 /// Reads any text. Only when its form is right are the fields those of the text.
-[[gnu::always_inline]] inline Form Read(std::string_view text, Details::TimeCodeFields& fields) noexcept
+Form Read(std::string_view text, Details::TimeCodeFields& fields) noexcept
 {
-    const bool hasDate = text.size() > 4 && text[4] == '-';
-    const std::size_t fixedLength = (hasDate ? dateLength : 0) + clockLength;
+    fields.hasDate = text.size() > 4 && text[4] == '-';
+    const std::size_t fixedLength = (fields.hasDate ? dateLength : 0) + clockLength;
     if (text.size() <= fixedLength)
         return Form::Wrong;
 
-    std::uint64_t wrong = 0;
-    const char* clock = text.data() + fixedLength - clockLength;
     fields.date = {1950, 1, 1}; // without date, any valid one passes the checks
-    if (hasDate)
-        ReadDate(text.data(), wrong, fields.date);
-    ReadClock(clock, wrong, fields.clock);
-    fields.isDrop = clock[8] == ';';
-    fields.hasDate = hasDate;
-    if (wrong != 0)
+    if (fields.hasDate && !ReadDate(text.data(), fields.date))
         return Form::Wrong;
+    const char* const clock = text.data() + fixedLength - clockLength;
+    if (!ReadClock(clock, fields.clock))
+        return Form::Wrong;
+    fields.isDrop = clock[8] == ';';
 
     std::int64_t rate = 0; // stays above INT32_MAX once it is, however many digits follow
     for (const char character : text.substr(fixedLength))
@@ -102,16 +98,8 @@ TimeCode QivTimeCodeParser::Parse(const std::string& text) const
     Details::TimeCodeFields fields;
     if (!ReadOrThrow(text, fields))
         throw std::invalid_argument("QivTimeCodeParser the string '" + text + "' has not the expected format.");
-    if (Details::FirstFailedCheck(fields) == Details::Check::None)
-        return Details::Build(fields);
-    const auto& [date, clock, rate, isDrop, hasDate] = fields;
-    return TimeCodeBuilder() // throws the text of the check
-        .Date(date.year, date.month, date.day)
-        .ClockTime(clock.hour, clock.minute, clock.second, clock.sample)
-        .Rate(rate)
-        .IsDrop(isDrop)
-        .HasDate(hasDate)
-        .Build();
+    Details::ThrowIfNotValid(fields);
+    return Details::Build(fields);
 }
 
 bool QivTimeCodeParser::IsStringFormatValid(const std::string& text) const

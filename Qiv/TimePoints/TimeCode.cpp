@@ -184,7 +184,7 @@ void TimeCode::ThrowIfNotCompatible(const TimeCode& other) const
 {
     if (!IsCompatible(other))
         throw std::invalid_argument("Time codes " + ToString() + " and " + other.ToString() +
-                                    " have not the same rate and drop-frame counting");
+                                    " do not have the same rate and drop-frame counting");
 }
 
 std::ostream& operator<<(std::ostream& stream, const TimeCode& timeCode)

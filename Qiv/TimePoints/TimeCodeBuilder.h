@@ -59,8 +59,6 @@ public:
 
     /// @throws std::out_of_range as `IsValidToBuildWithexception()` does
     TimeCode Build() const;
-    /// Builds into `timeCode` and returns true, or leaves it as it is and returns false when a check fails.
-    bool TryBuild(TimeCode& timeCode) const noexcept;
 
 private:
     template <typename Field>

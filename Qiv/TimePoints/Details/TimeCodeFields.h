@@ -75,6 +75,9 @@ constexpr bool IsWithin(std::int32_t value, std::int32_t first, std::int32_t las
     return numerator == 30 || numerator == 60 ? Check::None : Check::DropRate;
 }
 
+/// @throws std::out_of_range with the text of the check that the fields do not pass
+void ThrowIfNotValid(const TimeCodeFields& fields);
+
 /// The time code of fields that pass the checks.
 [[gnu::always_inline]] constexpr TimeCode Build(const TimeCodeFields& fields) noexcept
 {

@@ -1,7 +1,7 @@
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToTimePointConverter.h>
 
 #include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
-#include <Qiv/TimePoints/QivDurationParser.h>
+#include <Qiv/TimePoints/Details/Digits.h>
 
 #include <charconv>
 
@@ -10,8 +10,6 @@ namespace Qiv::DataModel::MediaAssets::Serialization::Json
 
 using namespace Common::Serialization::Json;
 using Common::Serialization::Result;
-using TimePoints::Duration;
-using TimePoints::QivDurationParser;
 using TimePoints::TimePoint;
 
 namespace
@@ -19,16 +17,9 @@ namespace
 
 std::optional<std::int64_t> WholeNumber(std::string_view text) noexcept
 {
-    constexpr std::size_t digitsOfInt64 = 19;
-    if (text.size() <= digitsOfInt64)
-    {
-        Duration number; // the fast parser; it takes a number that is too large for a negative one
-        if (!QivDurationParser::TryRead(text, number))
-            return std::nullopt;
-        const auto fits = text.front() == '-' || number.Nanoseconds() >= 0;
-        return fits ? std::optional<std::int64_t>(number.Nanoseconds()) : std::nullopt;
-    }
-    if (text.front() == '+' && text.substr(1, 1) != "-")
+    if (const auto digits = TimePoints::Details::DigitsToNumber(text); digits && *digits <= INT64_MAX)
+        return static_cast<std::int64_t>(*digits);
+    if (text.substr(0, 1) == "+" && text.substr(1, 1) != "-")
         text.remove_prefix(1);
     std::int64_t number = 0;
     const auto* const end = text.data() + text.size();

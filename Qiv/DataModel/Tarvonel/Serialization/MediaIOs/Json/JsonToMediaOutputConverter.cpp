@@ -6,7 +6,7 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToBoundaryConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToSequenceOutputConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToSpeedConverter.h>
-#include <Qiv/TimePoints/QivDurationParser.h>
+#include <Qiv/TimePoints/Details/Digits.h>
 
 #include <charconv>
 #include <memory>
@@ -27,9 +27,8 @@ using Tarvonel::MediaIOs::PlayingStatus;
 using Tarvonel::MediaIOs::SequenceOutput;
 using Tarvonel::MediaIOs::Speed;
 using Tarvonel::MediaIOs::To;
-using TimePoints::Duration;
-using TimePoints::QivDurationParser;
 using TimePoints::TimePoint;
+using TimePoints::Details::DigitsToNumber;
 
 namespace
 {
@@ -40,10 +39,8 @@ namespace
 // inline, so that the terminate handler still finds the exception and its text.
 [[gnu::noinline]] std::int64_t LeadingNumber(std::string_view text)
 {
-    constexpr std::size_t digitsOfInt64 = 19;
-    Duration digits; // negative also when they are too many
-    if (text.size() <= digitsOfInt64 && QivDurationParser::TryRead(text, digits) && digits.Nanoseconds() >= 0)
-        return digits.Nanoseconds();
+    if (const auto digits = DigitsToNumber(text); digits && *digits <= INT64_MAX)
+        return static_cast<std::int64_t>(*digits);
     std::int64_t number = 0;
     if (std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc())
         return number;
