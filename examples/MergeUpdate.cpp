@@ -1,8 +1,8 @@
 // Applies updates to a recorder channel, each whole or not at all: MergeUpdate SNAPSHOT UPDATE
 #include <Qiv/DataModel/Tarvonel/MediaIOs/MediaInput.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ToText.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToMediaInputConverter.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaInputToJsonConverter.h>
 
 #include <fstream>
 #include <iostream>
@@ -10,6 +10,7 @@
 #include <string>
 
 using namespace Qiv::DataModel::Tarvonel::Serialization::Json;
+using namespace Qiv::DataModel::Tarvonel::Serialization::Json::Documents;
 using namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json;
 using Qiv::DataModel::Tarvonel::MediaIOs::MediaInput;
 
@@ -55,7 +56,5 @@ int main(int argc, char** argv)
         std::cout << "plain reader: " << JsonToMediaInputConverter().To(json, plain).ErrorMessage() << ", name now \""
                   << plain.Name() << "\"\n";
 
-    Stringer out = Stringer::PrettyStringer();
-    MediaInputToJsonConverter().To(recorder, out);
-    std::cout << out.ToString() << '\n';
+    std::cout << ToText(recorder, Layout::Pretty) << '\n';
 }

@@ -1,22 +1,23 @@
-#include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/JsonToNodeConverter.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/NodeToJsonConverter.h>
-
-#include <json/json.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ToText.h>
 
 #include <iostream>
-#include <sstream>
+#include <string>
+
+using namespace Qiv::DataModel::Tarvonel;
+using namespace Qiv::DataModel::Tarvonel::Serialization::Json::Documents;
 
 int main()
 {
-    Json::Value json;
-    std::istringstream(R"({"_type": "Node", "id": "n1", "hostName": "replay-3"})") >> json;
+    const std::string text = R"({"_type": "Node", "id": "n1", "hostName": "replay-3"})";
 
-    using namespace Qiv::DataModel::Tarvonel;
-    Nodes::Node node;
-    if (const auto result = Serialization::Nodes::Json::JsonToNodeConverter().To(json, node); !result)
-        std::cerr << result.ErrorMessage() << '\n';
-
-    Qiv::Common::Serialization::Json::Stringer out;
-    Serialization::Nodes::Json::NodeToJsonConverter().To(node, out);
-    std::cout << node.HostName() << " is " << out.ToString() << '\n';
+    const auto document = ReadAnyText(text);
+    if (!document)
+    {
+        std::cerr << "line " << document.Position().line << ": " << document.ErrorMessage() << '\n';
+        return 1;
+    }
+    if (const auto* const node = std::get_if<Nodes::Node>(&document.Entity()))
+        std::cout << node->HostName() << " is ";
+    std::cout << ToText(document.Entity()) << '\n';
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <Qiv/DataModel/Tarvonel/Serialization/Export.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/TextPosition.h>
 
 #include <string>
@@ -10,7 +9,7 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json
 {
 
 /// What reading a text reports: success, or a failure with its English text and its place.
-class QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult
+class [[nodiscard, gnu::visibility("default")]] TextResult
 {
 public:
     /// A success.
@@ -21,15 +20,27 @@ public:
     {
     }
 
-    explicit operator bool() const noexcept { return success_; }
+    explicit operator bool() const noexcept
+    {
+        return success_;
+    }
 
     /// Empty on success.
-    const std::string& ErrorMessage() const noexcept { return errorMessage_; }
+    const std::string& ErrorMessage() const noexcept
+    {
+        return errorMessage_;
+    }
     /// The place of the failure; line 1, column 1 on success.
-    const TextPosition& Position() const noexcept { return position_; }
+    const TextPosition& Position() const noexcept
+    {
+        return position_;
+    }
     /// The value that the failure is about, as an RFC 6901 pointer; empty for the document as a whole, when the text is
     /// no JSON, and on success.
-    const std::string& Pointer() const noexcept { return pointer_; }
+    const std::string& Pointer() const noexcept
+    {
+        return pointer_;
+    }
 
 private:
     bool success_ = true;
