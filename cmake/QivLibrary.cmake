@@ -102,8 +102,7 @@ function(qiv_install_package)
     install(FILES ${PROJECT_BINARY_DIR}/QivConfig.cmake ${PROJECT_BINARY_DIR}/QivConfigVersion.cmake
         DESTINATION ${destination} COMPONENT dev)
     install(EXPORT QivTargets NAMESPACE Qiv:: DESTINATION ${destination} COMPONENT dev)
-    if(EXISTS ${PROJECT_SOURCE_DIR}/schema)
-        install(DIRECTORY ${PROJECT_SOURCE_DIR}/schema/ DESTINATION ${CMAKE_INSTALL_DATADIR}/qiv/schema
-            COMPONENT dev FILES_MATCHING PATTERN *.json)
-    endif()
+    # What programs in other languages need lies beside the tool.
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/schema/ DESTINATION ${CMAKE_INSTALL_DATADIR}/qiv/schema
+        COMPONENT tool FILES_MATCHING PATTERN *.json PATTERN *.d.ts)
 endfunction()

@@ -3,7 +3,8 @@
 #   check.sh installed BUILD            installs, moves the tree, looks at the libraries, builds the consumer twice
 #   check.sh symbols BUILD [--write]    exported symbols against tests/abi, or writes those lists
 #   check.sh hardened BUILD             guards of the compiler and the linker in all that is installed
-#   check.sh packages FOLDER ARCH       unpacks the Debian packages, builds the consumer against them, runs the tool
+#   check.sh packages FOLDER ARCH       unpacks the Debian packages, builds consumer and examples against them
+#   check.sh together FOLDER            lintian on all, and the two architectures beside each other
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 scratch=$(mktemp -d)
@@ -113,27 +114,50 @@ check_hardened() # BUILD
 
 check_packages() # FOLDER ARCHITECTURE
 {
-    local file depends lib
+    local file lib root=$scratch/root examples=usr/share/doc/libqiv-dev/examples
     lib=usr/lib/$(multiarch)
-    for file in "$1"/*_"$2".deb; do
-        dpkg-deb --extract "$file" "$scratch/root"
-        depends=$(dpkg-deb --field "$file" Depends)
-        echo "$(basename "$file"): $depends"
-        case $(basename "$file") in
-            libqiv1_*) [[ $depends == *libjsoncpp* && $depends == *libc6* && $depends == *libstdc++6* ]] ;;
-            libqiv-dev_*) [[ $depends == *libqiv1* && $depends == *libjsoncpp-dev* ]] ;;
-            tarvonel-json_*) [[ $depends == *libqiv1* && $depends == *libc6* ]] ;;
-            *) false ;;
-        esac || fail "$file: depends on $depends"
+    # The tool without the package for developers.
+    for file in "$1"/{libqiv1,tarvonel-json}_*_"$2".deb; do
+        dpkg-deb --extract "$file" "$root"
     done
-    for file in "$scratch/root/$lib"/lib*.so; do
+    [[ $(LD_LIBRARY_PATH=$root/$lib "$root/usr/bin/tarvonel-json" convert "$root"/usr/share/doc/*/examples/documents/node.json) == \
+        "$(cat "$root"/usr/share/doc/*/examples/documents/canonical/node.json)" ]] || fail "the tool does not convert a node"
+    dpkg-deb --extract "$1"/libqiv-dev_*_"$2".deb "$root"
+
+    grep -qF "\"$(dpkg-deb --field "$1"/libqiv-dev_*_"$2".deb Version | sed 's/-[^-]*$//')\"" \
+        "$root/$lib/cmake/Qiv/QivConfigVersion.cmake" || fail "debian/changelog is of another version"
+
+    for file in "$root/$lib"/lib*.so; do
         check_library "$file"
         [[ $(readelf -d "$file") != *RUNPATH* ]] || fail "$file carries a search path"
     done
-    check_consumer "$scratch/root/usr" "lib/$(multiarch)"
-    printf '{"_type":"Node","id":"n1","serialNumber":7}' >"$scratch/tagged.json"
-    [[ $(LD_LIBRARY_PATH=$scratch/root/$lib "$scratch/root/usr/bin/tarvonel-json" convert "$scratch/tagged.json") == \
-        '{"_type":"Node","id":"n1","serialNumber":7}' ]] || fail "the packaged tool does not convert a node"
+    check_consumer "$root/usr" "lib/$(multiarch)"
+    cmake -G Ninja -S "$root/$examples" -B "$scratch/examples" "-DCMAKE_PREFIX_PATH=$root/usr" >"$scratch/log" 2>&1 &&
+        cmake --build "$scratch/examples" >"$scratch/log" 2>&1 &&
+        LD_LIBRARY_PATH=$root/$lib ctest --test-dir "$scratch/examples" --no-tests=error >"$scratch/log" 2>&1 ||
+        fail "the examples beside the package: $(cat "$scratch/log")"
+
+    # What a package of the consumer would depend on.
+    mkdir -p "$scratch/debian/consumer/DEBIAN"
+    mv "$scratch/consumer/consumer" "$scratch/debian/consumer"
+    printf 'Source: consumer\n\nPackage: consumer\nArchitecture: any\n' >"$scratch/debian/control"
+    dpkg-deb --control "$1"/libqiv1_*_"$2".deb "$scratch/control"
+    file=$(cd "$scratch" && DEB_HOST_ARCH=$2 dpkg-shlibdeps -O -L"$scratch/control/shlibs" -l"$root/$lib" debian/consumer/consumer)
+    [[ $file == *"libqiv1 (>= "* ]] || fail "a program that links the libraries depends on $file"
+}
+
+check_together() # FOLDER
+{
+    local architecture package different
+    lintian --allow-root --fail-on error,warning "$1"/*.deb || fail "lintian has findings"
+    for package in libqiv1 libqiv-dev; do
+        for architecture in amd64 i386; do
+            dpkg-deb --extract "$1/${package}"_*_$architecture.deb "$scratch/$architecture"
+        done
+    done
+    # Both may be installed at once as long as files of the same path are the same.
+    different=$(diff --recursive --brief --no-dereference "$scratch/amd64" "$scratch/i386" | grep -v '^Only in' || true)
+    [[ -z $different && -d $scratch/i386/usr ]] || fail "$different"
 }
 
 check_"$1" "${@:2}"
