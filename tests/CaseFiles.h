@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iterator>
@@ -123,21 +124,32 @@ public:
     /// A member that is a string; empty when it is absent.
     std::string Text(const std::string& name) const { return Has(name) ? (*this)[name].asString() : ""; }
 
+    /// The texts of the elements of a list, or of what they point at; none when it is absent.
+    std::vector<std::string> List(const std::string& name) const
+    {
+        auto texts = Has(name) ? Elements(Followed(JsonText(name))) : std::vector<std::string>();
+        std::transform(texts.begin(), texts.end(), texts.begin(), Followed);
+        return texts;
+    }
+
     /// The texts of all documents that the case is about.
     std::vector<std::string> Documents() const
     {
-        std::vector<std::string> documents;
-        if (Has("text"))
-            documents.push_back(Text("text"));
+        auto documents = List("documents");
         if (Has("document"))
             documents.push_back(Followed(JsonText("document")));
-        for (const auto* const list : {"documents", "texts"})
-            for (const auto& document : Has(list) ? Elements(Followed(JsonText(list))) : std::vector<std::string>())
-                documents.push_back(list[0] == 't' ? Parse(document).asString() : Followed(document));
-        if (Has("members"))
-            for (const auto& member : Elements(JsonText("members")))
-                for (const auto& value : Elements(Followed(JsonText("values"))))
-                    documents.push_back("{" + member + ":" + Parse(value).asString() + "}");
+        if (Has("text"))
+            documents.push_back(Text("text"));
+        for (const auto& text : List("texts"))
+            documents.push_back(Parse(text).asString());
+        auto values = List("values");
+        for (const auto& text : List("valueTexts"))
+            values.push_back(Parse(text).asString());
+        for (const auto& member : List("members"))
+            for (const auto& value : values)
+                documents.push_back("{" + member + ":" + value + "}");
+        if (documents.empty())
+            throw std::runtime_error("the case has no document");
         return documents;
     }
 
@@ -214,6 +226,14 @@ inline bool RegisterCases(const std::string& file, const Check& check)
         add("IsAFileOfCases", 1, Case(file, "", {}, {}),
             [message = std::string(error.what())](const Case&) { throw std::runtime_error(message); });
     }
+    return true;
+}
+
+/// The same for every file of a folder.
+inline bool RegisterFolder(const std::string& folder, const Check& check)
+{
+    for (const auto& file : std::filesystem::directory_iterator(QIV_TESTS_FOLDER "/cases/" + folder))
+        RegisterCases(folder + "/" + file.path().filename().string(), check);
     return true;
 }
 

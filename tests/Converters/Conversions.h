@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Cases.h"
+#include "CaseFiles.h"
 
 #include <Qiv/BusinessEntityModel/Edits/Serialization/Json/JsonToSequenceConverter.h>
 #include <Qiv/BusinessEntityModel/Edits/Serialization/Json/SequenceToJsonConverter.h>
@@ -29,15 +29,13 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/JsonToNodeConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/NodeToJsonConverter.h>
 
-#include <json/reader.h>
-
-#include <algorithm>
+#include <map>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <utility>
 
-/// What the tests of the converters share: strict parsing, writing in one line, and full documents.
+/// What the tests of the converters share: reading and writing in one line, what cases say, and full documents.
 namespace Qiv::Tests
 {
 
@@ -53,20 +51,6 @@ using BusinessEntityModel::Edits::Sequence;
 using TimePoints::Duration;
 using TimePoints::TimeCode;
 using TimePoints::TimePoint;
-
-/// Parses one JSON text, strictly; throws otherwise.
-inline JsonObject Parse(const std::string& text)
-{
-    ::Json::CharReaderBuilder builder;
-    ::Json::CharReaderBuilder::strictMode(&builder.settings_);
-    builder["strictRoot"] = false;
-    JsonObject json;
-    std::string errors;
-    const std::unique_ptr<::Json::CharReader> reader(builder.newCharReader());
-    if (!reader->parse(text.data(), text.data() + text.size(), &json, &errors))
-        throw std::runtime_error(errors + text);
-    return json;
-}
 
 /// The reader and the writer of an entity.
 std::pair<JsonToTimePointConverter, TimePointToJsonObjectConverter> ConvertersOf(const TimePoint&);
@@ -113,21 +97,45 @@ Entity FromText(const std::string& text)
     return entity;
 }
 
-/// The names of documents.txt, which stand for documents with every member and for their parts.
-inline const Names documents = []
+/// What is written after a case, of what was written as `before`: "after" is "unchanged", "the document" or a document,
+/// or "changes" is an RFC 7396 merge patch.
+inline void Patch(JsonObject& target, const JsonObject& patch)
 {
-    Names names;
-    Lines("Converters/cases/documents.txt", names);
-    return names;
-}();
-inline std::string Document(const std::string& name)
-{
-    return std::find_if(documents.begin(), documents.end(), [&](const auto& each) { return each.first == name; })
-        ->second;
+    if (!patch.isObject())
+        target = patch;
+    else
+        for (const auto& name : patch.getMemberNames())
+            if (patch[name].isNull())
+                target.removeMember(name);
+            else
+                Patch(target[name], patch[name]);
 }
-inline const auto fullAsset = Document("$ASSET"), fullAssetReference = Document("$REFERENCE"),
-                  fullMetadata = Document("$METADATA"), fullInput = Document("$INPUT"),
-                  fullOutput = Document("$OUTPUT"), fullSequenceOutput = Document("$SEQUENCE"),
-                  fullNode = Document("$NODE");
+inline JsonObject After(const Case& each, const std::string& before, const std::string& document = "null")
+{
+    auto after = Parse(before);
+    if (each.Has("changes"))
+        Patch(after, each["changes"]);
+    else if (const auto text = each.JsonText("after"); text == "\"the document\"")
+        after = Parse(document);
+    else if (text != "\"unchanged\"")
+        after = Parse(Followed(text));
+    return after;
+}
+
+/// Runs the checks of the converters that a case names: that of its entity, or those in the list `converters`, of which
+/// "MediaIO" is that of channels of both kinds.
+inline void EachConverter(const Case& each, const std::string& converters, const std::map<std::string, Check>& checks)
+{
+    const auto entity = each.Text("entity");
+    if (!each.Has(converters))
+        checks.at(entity)(each);
+    for (const auto& name : each.List(converters))
+        checks.at(Parse(name) == entity ? entity : entity + " by " + Parse(name).asString())(each);
+}
+
+inline const auto fullInput = Document("/recorder"), fullOutput = Document("/player"), fullNode = Document("/node"),
+                  fullAssetReference = Document("/recorder/mediaAssetOnAir"),
+                  fullAsset = Document("/recorder/mediaAssetOnAir/mediaAsset"),
+                  fullMetadata = Document("/recorder/metadata"), fullSequenceOutput = Document("/player/sequence");
 
 } // namespace Qiv::Tests

@@ -5,42 +5,40 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace Qiv::Tests
 {
 namespace
 {
 
-/// What a line says, for a target that was read from `before` (a new one when that is empty).
-using Check = std::function<void(const std::string& before, const std::string& line)>;
+/// Each document of a case, read into each entity that it names, and as a temporary too.
 template <typename Entity, typename Reader = ReaderOf<Entity>, typename Writer = WriterOf<Entity>>
-Check Checking(const Reader& reader = Reader(), const Writer& writer = Writer())
+Check Reading(const Reader& reader = Reader(), const Writer& writer = Writer())
 {
-    return [=](const std::string& before, const std::string& line)
+    return [=](const Case& each)
     {
-        const auto sides = Split(line, " >> ");
-        const auto reading = Split(sides[0], " !! ");
-        const auto json = Parse(reading[0]);
-        const std::string message = reading.size() == 2 ? reading[1] : "";
-        for (const bool asTemporary : {false, true})
-        {
-            Entity entity;
-            if (!before.empty())
-                Read(before, entity, reader);
-            const auto unchanged = Written(entity, writer);
-            auto temporary = json;
-            const auto result = asTemporary ? reader.To(std::move(temporary), entity) : reader.To(json, entity);
-            EXPECT_STREQ(result.ErrorMessage(), message.c_str());
-            EXPECT_EQ(result, message.empty());
-            EXPECT_EQ(Written(entity, writer), sides.size() == 2 ? Edited(unchanged, sides[1]) : unchanged);
-            EXPECT_EQ(temporary, json);
-            EXPECT_STREQ(reader.GetLastConversionError(), "");
-        }
+        for (const auto& before : each.List("before"))
+            for (const auto& document : each.Documents())
+                for (const bool asTemporary : {false, true})
+                {
+                    SCOPED_TRACE("reading " + document + (asTemporary ? " as a temporary" : "") + " into " + before);
+                    Entity entity{};
+                    if (before != "null")
+                        Read(before, entity, reader);
+                    const auto after = After(each, Written(entity, writer), document);
+                    const auto json = Parse(document);
+                    auto given = json;
+                    const auto result = asTemporary ? reader.To(std::move(given), entity) : reader.To(json, entity);
+                    EXPECT_STREQ(result.ErrorMessage(), each.Text("message").c_str());
+                    EXPECT_EQ(result, !each.Has("message"));
+                    EXPECT_EQ(Parse(Written(entity, writer)).toStyledString(), after.toStyledString());
+                    EXPECT_TRUE(given == json) << given.toStyledString();
+                    EXPECT_STREQ(reader.GetLastConversionError(), "");
+                }
     };
 }
 
@@ -54,53 +52,31 @@ struct OperatorWriter : PelOperatorMetadataProfileToJsonConverter
     }
 };
 
-TEST(Readers, DoWhatTheirCasesSay)
+void CheckReaders(const Case& each)
 {
     const JsonToSharedReference<MediaAsset> referenceReader("MediaAssetRef", "mediaAsset",
                                                             std::make_shared<JsonToMediaAssetConverter>());
     const SharedReferenceToJson<MediaAsset, false> referenceWriter("MediaAssetRef", "mediaAsset",
                                                                    std::make_shared<MediaAssetToJsonConverter>());
-    const std::map<std::string, Check> checks = {
-        {"JsonToTimePointConverter TimePoint", Checking<TimePoint>()},
-        {"JsonToMediaAssetConverter MediaAsset", Checking<MediaAsset>()},
-        {"JsonToSequenceConverter Sequence", Checking<Sequence>()},
-        {"JsonToSharedReference SharedReference",
-         Checking<SharedReference<MediaAsset>>(referenceReader, referenceWriter)},
-        {"JsonToSpeedConverter Speed", Checking<Speed>()},
-        {"JsonToBoundaryConverter Boundary", Checking<std::unique_ptr<Boundary>>()},
-        {"JsonToSequenceOutputConverter SequenceOutput", Checking<SequenceOutput>()},
-        {"JsonToMetadataProfileDictionaryConverter MetadataProfileDictionary", Checking<MetadataProfileDictionary>()},
-        {"JsonToPelOperatorMetaDataConverter PelOperatorMetadataProfile",
-         Checking<PelOperatorMetadataProfile>(JsonToPelOperatorMetaDataConverter(), OperatorWriter())},
-        {"JsonToNodeConverter Node", Checking<Node>()},
-        {"JsonToMediaIOConverter MediaInput", Checking<MediaInput>()},
-        {"JsonToMediaIOConverter MediaOutput", Checking<MediaOutput>()},
-        {"JsonToMediaInputConverter MediaInput",
-         Checking<MediaInput>(JsonToMediaInputConverter(), MediaInputToJsonConverter())},
-        {"JsonToMediaOutputConverter MediaOutput",
-         Checking<MediaOutput>(JsonToMediaOutputConverter(), MediaOutputToJsonConverter())},
+    const std::map<std::string, Check> readers = {
+        {"TimePoint", Reading<TimePoint>()},
+        {"MediaAsset", Reading<MediaAsset>()},
+        {"Sequence", Reading<Sequence>()},
+        {"MediaAssetReference", Reading<SharedReference<MediaAsset>>(referenceReader, referenceWriter)},
+        {"Speed", Reading<Speed>()},
+        {"Boundary", Reading<std::unique_ptr<Boundary>>()},
+        {"SequenceOutput", Reading<SequenceOutput>()},
+        {"Metadata", Reading<MetadataProfileDictionary>()},
+        {"Operator", Reading<PelOperatorMetadataProfile>(JsonToPelOperatorMetaDataConverter(), OperatorWriter())},
+        {"Node", Reading<Node>()},
+        {"MediaInput", Reading<MediaInput>(JsonToMediaInputConverter(), MediaInputToJsonConverter())},
+        {"MediaOutput", Reading<MediaOutput>(JsonToMediaOutputConverter(), MediaOutputToJsonConverter())},
+        {"MediaInput by MediaIO", Reading<MediaInput>()},
+        {"MediaOutput by MediaIO", Reading<MediaOutput>()},
     };
-    std::vector<std::string> headings;
-    bool isGroupComplete = false;
-    for (const auto& line : Lines("Converters/cases/readers.txt", Names(documents)))
-    {
-        const bool isHeading = line.rfind("== ", 0) == 0;
-        if (isHeading && std::exchange(isGroupComplete, false))
-            headings.clear();
-        if (isHeading)
-        {
-            headings.push_back(line.substr(3));
-            continue;
-        }
-        isGroupComplete = true;
-        for (const auto& heading : headings)
-        {
-            SCOPED_TRACE(heading + '\n' + line);
-            const auto sides = Split(heading + ": ", ": ");
-            checks.at(sides[0])(sides[1], ReplacedAll(line, "$TYPE", Split(sides[0], " ")[1]));
-        }
-    }
+    EachConverter(each, "readers", readers);
 }
+const bool areRegistered = RegisterFolder("readers", CheckReaders);
 
 TEST(JsonToSharedReference, RefusesObjectsWithoutAReaderForThem)
 {
