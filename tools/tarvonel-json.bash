@@ -5,15 +5,20 @@ _tarvonel_json()
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
         [[ $word == -* ]] || { command=("$word") && break; }
     done
-    if [[ $previous == --output ]]; then
-        words='text json'
-    elif [[ $current == -* ]]; then
-        words=$("$1" "${command[@]}" --help 2>/dev/null | grep -oE '^ +(-[a-z],)?--[a-z-]+' | grep -oE -- '--[a-z-]+')
-    elif ((${#command[@]} == 0)); then
-        words=$("$1" --help 2>/dev/null | sed -nE '/^Subcommands:/,/^$/s/^  ([a-z]+) .*/\1/p')
-    else
-        return # file names, see below
-    fi
+    case $previous in
+        --output) words='text json' ;;
+        --fail-on) words='fatal failure skipped any' ;;
+        *)
+            if [[ $current == -* ]]; then
+                words=$("$1" "${command[@]}" --help 2>/dev/null |
+                    grep -oE '^ +(-[a-zA-Z],)?--[a-z-]+' | grep -oE -- '--[a-z-]+')
+            elif ((${#command[@]} == 0)) || [[ ${command[0]} == help ]]; then
+                words=$("$1" --help 2>/dev/null | sed -nE '/^Subcommands:/,/^$/s/^  ([a-z]+) .*/\1/p')
+            else
+                return # file names, see below
+            fi
+            ;;
+    esac
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
 }
 complete -o bashdefault -o default -F _tarvonel_json tarvonel-json

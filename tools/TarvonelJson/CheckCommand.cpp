@@ -1,74 +1,46 @@
 #include <TarvonelJson/CheckCommand.h>
 
-#include <TarvonelJson/Conversion.h>
-
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
-
-#include <json/value.h>
+#include <TarvonelJson/CheckedFinding.h>
+#include <TarvonelJson/FindingCounts.h>
 
 #include <algorithm>
-#include <cstdint>
-#include <tuple>
+#include <iterator>
+#include <map>
 #include <vector>
 
 namespace TarvonelJson
 {
 
-using namespace Qiv::DataModel::Tarvonel::Serialization::Json;
-using Qiv::Common::Serialization::Json::Stringer;
-
 namespace
 {
 
-/// A finding as it is printed; also a text that is no JSON and a document of no kind are findings here.
-struct Entry
-{
-    SourceText::Position position;
-    std::string pointer;
-    std::string kind;
-    std::string sentence;
-    std::string readerMessage;
-};
+constexpr std::size_t mostFindings = 1000;
 
-/// In the order of their places.
-std::vector<Entry> EntriesOf(const SourceText& source)
+const std::map<std::string, Level> levels = {
+    {"fatal", Level::Fatal}, {"failure", Level::Failure}, {"skipped", Level::Skipped}, {"any", Level::Any}};
+
+ExitStatus StatusOf(const std::vector<CheckedFinding>& findings, Level failOn)
 {
-    Json::Value document;
-    if (const auto result = ParseText(source.text, document); !result)
-        return {{result.Position(), "", "invalid-json", result.ErrorMessage(), ""}};
-    if (!KindOf(document))
-        return {{PositionOf(source.text, document.getOffsetStart()), "", "unknown-type", NoKindMessage(document), ""}};
-    std::vector<Entry> entries;
-    for (const auto& finding : InspectDocument(document))
+    auto worst = ExitStatus::Success;
+    for (const auto& finding : findings)
     {
-        entries.push_back({PositionOf(source.text, finding.offset), finding.pointer,
-                           std::string(ToString(finding.kind)), finding.sentence, finding.readerMessage});
+        if (finding.level == Level::NotJson)
+            return ExitStatus::Trouble;
+        if (finding.level >= failOn)
+            worst = ExitStatus::Findings;
     }
-    const auto place = [](const Entry& entry) { return std::tie(entry.position.line, entry.position.column); };
-    std::stable_sort(entries.begin(), entries.end(),
-                     [&](const Entry& left, const Entry& right) { return place(left) < place(right); });
-    return entries;
+    return worst;
 }
 
-std::string AsText(const SourceText& source, const Entry& entry)
+/// Leaves the first ones and a last one that tells how many there are more.
+void CutFindings(std::vector<CheckedFinding>& findings)
 {
-    const bool isFatal = entry.kind == ToString(FindingKind::EndsProcess);
-    return source.MessageStart(entry.position, entry.pointer) + (isFatal ? "FATAL: " : "") + entry.sentence + '\n';
-}
-
-std::string AsJson(const SourceText& source, const Entry& entry)
-{
-    const auto position = source.InFile(entry.position);
-    Stringer json;
-    json.Object().Key("file").Value(source.file);
-    json.Key("line").Value(static_cast<std::int32_t>(position.line));
-    json.Key("column").Value(static_cast<std::int32_t>(position.column));
-    json.Key("pointer").Value(entry.pointer).Key("kind").Value(entry.kind).Key("sentence").Value(entry.sentence);
-    if (!entry.readerMessage.empty())
-        json.Key("readerMessage").Value(entry.readerMessage);
-    json.CloseObject();
-    return json.ToString();
+    if (findings.size() <= mostFindings)
+        return;
+    const auto rest = findings.size() - mostFindings;
+    findings.resize(mostFindings);
+    findings.push_back({findings.back().position, "", "more",
+                        "and " + std::to_string(rest) + " more, which --all prints", "", Level::Any});
 }
 
 } // namespace
@@ -83,41 +55,68 @@ finding is printed as
 
 with columns in bytes and the pointer to the value (RFC 6901), which is left out
 when the finding is about the whole document. FATAL marks what ends the process
-that reads the document. With --output json an array of objects is printed.
+that reads the document. A line has at most 1,000 bytes: long names and values are
+cut, and what could steer a terminal is escaped. With --output json an array of
+objects is printed in which nothing is cut, or one object with --summary.
+
+Levels, each with those before it:
+  fatal      ends the process that reads the document
+  failure    readers refuse the document
+  skipped    a member is skipped or replaced by a default
+  any        a known member is ignored
 
 Examples:
   tarvonel-json check recorder.json
   tarvonel-json check --ndjson --output json server.ndjson
-
-Exit status: 0 no finding, 1 findings, 2 wrong usage or an unreadable file.)")
+  tarvonel-json check --fail-on failure --quiet *.json && deploy)")
 {
     files_.AddTo(Arguments());
     Arguments()
         .add_option("--output", outputForm_, "Text for people (default) or json for programs")
         ->type_name("FORM")
         ->check(CLI::IsMember({"text", "json"}).description(""));
+    Arguments()
+        .add_option("--fail-on", failOn_, "The level from which on findings set exit status 1; any by default")
+        ->type_name("LEVEL")
+        ->check(CLI::IsMember({"fatal", "failure", "skipped", "any"}).description(""));
+    Arguments().add_flag("-q,--quiet", isQuiet_, "Print no finding, only set the exit status");
+    Arguments().add_flag("--summary", isSummary_, "Print counts by file and by kind instead of findings");
+    Arguments().add_flag("--all", printsAll_, "Print also what goes beyond 1,000 findings in a document");
 }
 
 ExitStatus CheckCommand::Run(Output& output) const
 {
     const bool isJson = outputForm_ == "json";
-    bool isClean = true;
-    const auto print = [&](const SourceText& source)
-    {
-        for (const auto& entry : EntriesOf(source))
+    const bool printsFindings = !isQuiet_ && !isSummary_;
+    const auto failOn = levels.at(failOn_);
+    bool isFirst = true;
+    FindingCounts counts;
+    const auto status = files_.ForEachDocument(
+        output,
+        [&](const SourceText& source)
         {
-            if (isJson)
-                output.Write(isClean ? "[\n " : ",\n ");
-            output.Write(isJson ? AsJson(source, entry) : AsText(source, entry));
-            isClean = false;
-        }
-    };
-    const bool areAllRead = files_.ForEachDocument(output, print);
-    if (isJson)
-        output.Write(isClean ? "[]\n" : "\n]\n");
-    if (!areAllRead)
-        return ExitStatus::Usage;
-    return isClean ? ExitStatus::Success : ExitStatus::Failure;
+            auto findings = CheckDocument(source);
+            const auto statusOfDocument = StatusOf(findings, failOn);
+            if (isSummary_)
+                counts.Count(source, findings);
+            if (!printsFindings)
+                return statusOfDocument;
+            if (!printsAll_)
+                CutFindings(findings);
+            for (const auto& finding : findings)
+            {
+                if (isJson)
+                    output.Write(isFirst ? "[\n " : ",\n ");
+                output.Write(isJson ? AsJson(source, finding) : AsText(source, finding, output.IsColoured()));
+                isFirst = false;
+            }
+            return statusOfDocument;
+        });
+    if (printsFindings && isJson)
+        output.Write(isFirst ? "[]\n" : "\n]\n");
+    if (isSummary_ && !isQuiet_)
+        output.Write(isJson ? counts.AsJson() : counts.AsText());
+    return status;
 }
 
 } // namespace TarvonelJson

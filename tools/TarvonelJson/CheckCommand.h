@@ -2,6 +2,7 @@
 
 #include <TarvonelJson/Command.h>
 #include <TarvonelJson/InputFiles.h>
+#include <TarvonelJson/Level.h>
 
 #include <string>
 
@@ -15,11 +16,14 @@ public:
     explicit CheckCommand(CLI::App& program);
 
     ExitStatus Run(Output& output) const override;
-    ExitStatus StatusOfFailedOutput() const override { return ExitStatus::Usage; }
 
 private:
     InputFiles files_;
     std::string outputForm_ = "text";
+    std::string failOn_ = "any";
+    bool isQuiet_ = false;
+    bool isSummary_ = false;
+    bool printsAll_ = false;
 };
 
 } // namespace TarvonelJson

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <TarvonelJson/ExitStatus.h>
 #include <TarvonelJson/Output.h>
 
 #include <CLI/App.hpp>
@@ -8,14 +9,6 @@
 
 namespace TarvonelJson
 {
-
-/// How the program ends.
-enum class ExitStatus
-{
-    Success = 0,
-    Failure = 1,
-    Usage = 2,
-};
 
 /// A subcommand: declares its arguments and runs with them.
 class Command
@@ -29,9 +22,6 @@ public:
     bool IsChosen() const { return app_.parsed(); }
 
     virtual ExitStatus Run(Output& output) const = 0;
-
-    /// The status when standard output can't be written.
-    virtual ExitStatus StatusOfFailedOutput() const { return ExitStatus::Failure; }
 
 protected:
     Command(CLI::App& program, const std::string& name, const std::string& description, const std::string& footer);

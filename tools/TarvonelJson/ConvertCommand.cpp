@@ -1,76 +1,85 @@
 #include <TarvonelJson/ConvertCommand.h>
 
-#include <TarvonelJson/Conversion.h>
+#include <TarvonelJson/Refusal.h>
 
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ToText.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
 
 #include <json/value.h>
 
+#include <string>
+#include <vector>
+
 namespace TarvonelJson
 {
 
 using namespace Qiv::DataModel::Tarvonel::Serialization::Json;
+using Documents::AnyResult;
+using Documents::Layout;
+
+namespace
+{
+
+AnyResult Read(std::string_view text, std::vector<Finding>* findings)
+{
+    if (findings == nullptr)
+        return Documents::ReadAnyText(text);
+    Json::Value document;
+    if (auto result = ParseText(text, document); !result)
+        return result;
+    *findings = InspectDocument(document);
+    return Documents::ReadAny(document);
+}
+
+} // namespace
 
 ConvertCommand::ConvertCommand(CLI::App& program)
     : Command(program, "convert", "Read documents and write them in canonical form, one line each",
               R"(A document that cannot be read is reported on standard error with its place,
 and so is one that would end the process of whoever reads it; the others are
-converted all the same. What the readers pass over silently is what the command
-check tells.
+converted all the same. How many members the readers skipped or replaced by a
+default is told at the end; the command check shows them.
 
 Examples:
   tarvonel-json convert node.json
   tarvonel-json convert --pretty recorder.json player.json
-  tail -f channels.ndjson | tarvonel-json convert --ndjson
-
-Exit status: 0 all documents were converted, 1 not all, 2 wrong usage.)")
+  tail -f channels.ndjson | tarvonel-json convert --ndjson)")
 {
     files_.AddTo(Arguments());
     Arguments().add_flag("--pretty", isPretty_, "Indent the documents instead of writing one line each");
+    Arguments().add_flag("--strict", isStrict_, "Refuse documents of which anything would be lost");
+    Arguments().add_flag("-q,--quiet", isQuiet_, "Do not tell what was skipped or replaced, nor look for it");
 }
 
 ExitStatus ConvertCommand::Run(Output& output) const
 {
-    bool areAllConverted = true;
-    const bool areAllRead = files_.ForEachDocument(output, [&](const SourceText& source)
-                                                   { areAllConverted = Convert(source, output) && areAllConverted; });
-    return areAllRead && areAllConverted ? ExitStatus::Success : ExitStatus::Failure;
+    Losses losses;
+    const auto status =
+        files_.ForEachDocument(output, [&](const SourceText& source) { return Convert(source, output, losses); });
+    losses.Report();
+    return status;
 }
 
-bool ConvertCommand::Convert(const SourceText& source, Output& output) const
+ExitStatus ConvertCommand::Convert(const SourceText& source, Output& output, Losses& losses) const
 {
-    Json::Value document;
-    if (const auto result = ParseText(source.text, document); !result)
+    const bool looksForLosses = isStrict_ || !isQuiet_;
+    std::vector<Finding> findings;
+    const auto result = Read(source.text, looksForLosses ? &findings : nullptr);
+    if (!result)
+        return Report(source, WhyNotRead(source));
+    const auto text = Documents::ToText(result.Entity(), isPretty_ ? Layout::Pretty : Layout::Compact);
+    if (looksForLosses)
     {
-        Report(source.MessageStart(result.Position(), "") + result.ErrorMessage());
-        return false;
+        const auto timeCodes = CountLostTimeCodes(text);
+        if (isStrict_ && (!findings.empty() || timeCodes > 0))
+            return Report(source, RefusalOfLoss(source, findings));
+        if (!isQuiet_)
+            losses.Count(findings.size(), timeCodes);
     }
-    const auto start = [&](const Finding* finding)
-    {
-        return finding ? source.MessageStart(PositionOf(source.text, finding->offset), finding->pointer)
-                       : source.MessageStart(PositionOf(source.text, document.getOffsetStart()), "");
-    };
-    const auto kind = KindOf(document);
-    if (!kind)
-    {
-        Report(start(nullptr) + NoKindMessage(document));
-        return false;
-    }
-    const auto findings = InspectDocument(document);
-    if (const auto* const fatal = FirstFatal(findings))
-    {
-        Report(start(fatal) + "refused: " + fatal->sentence);
-        return false;
-    }
-    auto stringer = MakeStringer(isPretty_);
-    if (const auto result = ReadAndWrite(document, *kind, stringer); !result)
-    {
-        Report(start(FirstFailure(findings)) + result.ErrorMessage());
-        return false;
-    }
-    output.Write(stringer.ToString() + '\n');
-    return true;
+    output.WriteJson(text);
+    return ExitStatus::Success;
 }
 
 } // namespace TarvonelJson

@@ -2,6 +2,7 @@
 
 #include <TarvonelJson/Command.h>
 #include <TarvonelJson/InputFiles.h>
+#include <TarvonelJson/Losses.h>
 
 namespace TarvonelJson
 {
@@ -15,10 +16,12 @@ public:
     ExitStatus Run(Output& output) const override;
 
 private:
-    bool Convert(const SourceText& source, Output& output) const;
+    ExitStatus Convert(const SourceText& source, Output& output, Losses& losses) const;
 
     InputFiles files_;
     bool isPretty_ = false;
+    bool isQuiet_ = false;
+    bool isStrict_ = false;
 };
 
 } // namespace TarvonelJson

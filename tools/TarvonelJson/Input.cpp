@@ -1,8 +1,11 @@
 #include <TarvonelJson/Input.h>
 
+#include <TarvonelJson/Messages.h>
+
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
+#include <new>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -17,36 +20,95 @@ namespace
 {
 
 constexpr std::size_t blockCapacity = std::size_t{64} << 10;
-constexpr std::int64_t progressStep = std::int64_t{16} << 20;
 
 [[noreturn]] void ThrowLastError()
 {
     throw InputError(std::generic_category().message(errno));
 }
 
+int Open(const std::string& name)
+{
+    const int descriptor =
+        name == Input::standardInput ? STDIN_FILENO : open(name.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY);
+    if (descriptor < 0)
+        ThrowLastError();
+    return descriptor;
+}
+
+bool IsStandardOutput(const struct stat& input)
+{
+    struct stat output = {};
+    return fstat(STDOUT_FILENO, &output) == 0 && S_ISREG(output.st_mode) && output.st_dev == input.st_dev &&
+           output.st_ino == input.st_ino;
+}
+
+/// The size in bytes of what can be read, 0 when that is not known.
+std::int64_t CheckedSize(int descriptor, const std::string& name)
+{
+    struct stat status = {};
+    if (fstat(descriptor, &status) != 0)
+        return 0;
+    if (S_ISDIR(status.st_mode))
+        throw InputError("is a folder; name its files, for example " + (name == "/" ? "" : name) + "/*.json");
+    if (IsStandardOutput(status))
+        throw InputError("is the output, too; nothing is read from it");
+    return S_ISREG(status.st_mode) ? status.st_size : 0;
+}
+
+/// Text that grows until it is too large. Then it is given up, and its memory is free for what follows.
+class GrowingText
+{
+public:
+    GrowingText(std::string& text, std::uint64_t maximumBytes) : text_(text), maximumBytes_(maximumBytes)
+    {
+        text_.clear();
+    }
+
+    void Append(std::string_view part)
+    {
+        if (state_ != Input::Part::Complete)
+            return;
+        if (part.size() > maximumBytes_ - text_.size())
+            return GiveUp(Input::Part::TooLarge);
+        try
+        {
+            text_.append(part);
+        }
+        catch (const std::bad_alloc&)
+        {
+            GiveUp(Input::Part::NoMemory);
+        }
+    }
+
+    Input::Part State() const noexcept { return state_; }
+
+private:
+    void GiveUp(Input::Part state)
+    {
+        state_ = state;
+        text_ = std::string();
+    }
+
+    std::string& text_;
+    std::uint64_t maximumBytes_;
+    Input::Part state_ = Input::Part::Complete;
+};
+
 } // namespace
 
 Input::Input(const std::string& name, std::function<void()> beforeReading)
-    : displayName_(DisplayName(name)),
-      beforeReading_(std::move(beforeReading)),
-      descriptor_(name == standardInput ? STDIN_FILENO : open(name.c_str(), O_RDONLY | O_CLOEXEC)),
-      block_(blockCapacity)
+    : beforeReading_(std::move(beforeReading)),
+      descriptor_(Open(name)),
+      block_(blockCapacity),
+      size_(CheckedSize(descriptor_, DisplayName(name))),
+      progress_(DisplayName(name), size_)
 {
-    if (descriptor_ < 0)
-        ThrowLastError();
-    if (isatty(STDERR_FILENO) && !isatty(STDOUT_FILENO))
-        nextProgress_ = progressStep;
-    struct stat status = {};
-    if (fstat(descriptor_, &status) == 0 && S_ISREG(status.st_mode))
-        size_ = status.st_size;
     if (descriptor_ == STDIN_FILENO && isatty(STDIN_FILENO))
-        std::fputs("tarvonel-json: reading from the terminal, end with Ctrl-D\n", stderr);
+        Report("reading from the terminal, end with Ctrl-D");
 }
 
 Input::~Input()
 {
-    if (showsProgress_)
-        std::fputs("\r\033[K", stderr);
     if (descriptor_ != STDIN_FILENO)
         close(descriptor_);
 }
@@ -56,19 +118,18 @@ std::string Input::DisplayName(const std::string& name)
     return name == standardInput ? "<stdin>" : name;
 }
 
-std::string Input::ReadAll()
+Input::Part Input::ReadAll(std::string& text, std::uint64_t maximumBytes)
 {
-    std::string text;
-    while (ReadBlock())
-        text.append(block_.data(), blockSize_);
-    return text;
+    GrowingText growing(text, maximumBytes);
+    while (growing.State() == Part::Complete && ReadBlock())
+        growing.Append({block_.data(), blockSize_});
+    return growing.State();
 }
 
-Input::Line Input::ReadLine(std::string& line)
+Input::Part Input::ReadLine(std::string& line, std::uint64_t maximumBytes)
 {
-    line.clear();
+    GrowingText growing(line, maximumBytes);
     bool hasAny = false;
-    bool isTooLong = false;
     bool isEnded = false;
     while (!isEnded && (blockUsed_ < blockSize_ || ReadBlock()))
     {
@@ -78,16 +139,13 @@ Input::Line Input::ReadLine(std::string& line)
         const void* const end = std::memchr(begin, '\n', available);
         isEnded = end != nullptr;
         const auto length = isEnded ? static_cast<std::size_t>(static_cast<const char*>(end) - begin) : available;
-        isTooLong = isTooLong || line.size() + length > maximumLineLength;
-        if (!isTooLong)
-            line.append(begin, length);
+        growing.Append({begin, length});
         blockUsed_ += length + (isEnded ? 1 : 0);
     }
-    if (isTooLong)
-        return Line::TooLong;
     if (!line.empty() && line.back() == '\r')
         line.pop_back();
-    return hasAny ? Line::Complete : Line::None;
+    progress_.CountDocument();
+    return hasAny ? growing.State() : Part::None;
 }
 
 bool Input::ReadBlock()
@@ -102,20 +160,8 @@ bool Input::ReadBlock()
         ThrowLastError();
     blockSize_ = static_cast<std::size_t>(count);
     blockUsed_ = 0;
-    bytesRead_ += count;
-    if (bytesRead_ >= nextProgress_)
-        ShowProgress();
+    progress_.CountBytes(count);
     return count > 0;
-}
-
-void Input::ShowProgress()
-{
-    auto text = '\r' + displayName_ + ": " + std::to_string(bytesRead_ >> 20) + " MiB";
-    if (size_ > 0)
-        text += " of " + std::to_string(size_ >> 20) + " MiB, " + std::to_string(bytesRead_ * 100 / size_) + " %";
-    std::fputs(text.c_str(), stderr);
-    showsProgress_ = true;
-    nextProgress_ = bytesRead_ + progressStep;
 }
 
 } // namespace TarvonelJson

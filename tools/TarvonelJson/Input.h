@@ -1,5 +1,7 @@
 #pragma once
 
+#include <TarvonelJson/Progress.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -21,17 +23,17 @@ public:
 class Input
 {
 public:
-    enum class Line
+    enum class Part
     {
         Complete,
-        TooLong, ///< longer than `maximumLineLength`, and passed over
-        None,    ///< the input has ended
+        TooLarge, ///< larger than is asked for; passed over
+        NoMemory, ///< larger than memory suffices for; passed over
+        None,     ///< the input has ended
     };
-    static constexpr std::size_t maximumLineLength = std::size_t{64} << 20;
 
     /// `name` is a path, or "-" for standard input. `beforeReading` is called whenever reading may take its time.
     ///
-    /// @throws InputError, like all reading
+    /// @throws InputError, like all reading; also for a folder, and for the file that standard output is
     Input(const std::string& name, std::function<void()> beforeReading);
     ~Input();
     Input(const Input&) = delete;
@@ -41,27 +43,22 @@ public:
     /// The file as messages name it.
     static std::string DisplayName(const std::string& name);
 
-    /// Everything that is left.
-    std::string ReadAll();
+    /// Everything that is left, which is "Complete" also when that is nothing.
+    Part ReadAll(std::string& text, std::uint64_t maximumBytes);
 
-    /// The next line without its end ("\n" or "\r\n"). The memory needed does not depend on how long the input is. A
-    /// large input shows its progress on standard error when that is a terminal and standard output is none.
-    Line ReadLine(std::string& line);
+    /// The next line without its end ("\n" or "\r\n"). The memory needed is that of the longest line.
+    Part ReadLine(std::string& line, std::uint64_t maximumBytes);
 
 private:
     bool ReadBlock();
-    void ShowProgress();
 
-    std::string displayName_;
     std::function<void()> beforeReading_;
     int descriptor_;
     std::vector<char> block_;
     std::size_t blockSize_ = 0;
     std::size_t blockUsed_ = 0;
-    std::int64_t bytesRead_ = 0;
     std::int64_t size_ = 0; // 0 when it is not known
-    std::int64_t nextProgress_ = INT64_MAX;
-    bool showsProgress_ = false;
+    Progress progress_;
 };
 
 } // namespace TarvonelJson

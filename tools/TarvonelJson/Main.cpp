@@ -1,30 +1,26 @@
 #include <TarvonelJson/CheckCommand.h>
 #include <TarvonelJson/ConvertCommand.h>
+#include <TarvonelJson/HelpCommand.h>
 #include <TarvonelJson/ManPage.h>
 #include <TarvonelJson/MergeCommand.h>
-#include <TarvonelJson/SourceText.h>
+#include <TarvonelJson/Messages.h>
 #include <TarvonelJson/TimecodeCommand.h>
+#include <TarvonelJson/UsageError.h>
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
-#include <csignal>
 #include <exception>
-#include <iostream>
-#include <sstream>
+#include <initializer_list>
+#include <new>
+#include <string>
 
 namespace TarvonelJson
 {
 
 namespace
 {
-
-/// Where the reader of standard output went away, writing fails instead of ending the process.
-void IgnoreBrokenPipes()
-{
-    std::signal(SIGPIPE, SIG_IGN);
-}
 
 ExitStatus RunProgram(int argc, char** argv)
 {
@@ -34,8 +30,16 @@ recorder channel), MediaOutput (a player channel), SequenceOutput, Speed,
 BoundaryAbsolute or BoundaryRelative. It is parsed strictly: no comments, no key
 twice in an object, nothing after the document.
 
+Messages stand on standard error, one a line, and begin with FILE:LINE:COLUMN or
+the name of the program. Colours are used on terminals unless NO_COLOR is set.
+
+Exit status of all commands:
+  0  all is well
+  1  a document is refused, or check has findings; a text is no time code
+  2  wrong usage, something that can't be read or written, or no JSON
+
 tarvonel-json COMMAND --help tells more, with examples.)");
-    program.set_version_flag("--version", "tarvonel-json " TARVONEL_JSON_VERSION, "Print the version and exit");
+    program.set_version_flag("-V,--version", "tarvonel-json " TARVONEL_JSON_VERSION, "Print the version and exit");
     program.require_subcommand(1);
     bool isManPageWanted = false;
     program.add_flag("--man-page", isManPageWanted)->group("");
@@ -44,45 +48,40 @@ tarvonel-json COMMAND --help tells more, with examples.)");
     const CheckCommand check(program);
     const MergeCommand merge(program);
     const TimecodeCommand timecode(program);
-    const Command* chosen = nullptr;
+    const HelpCommand help(program);
 
     Output output;
     try
     {
-        try
-        {
-            program.parse(argc, argv);
-        }
-        catch (const CLI::ParseError& error)
-        {
-            if (isManPageWanted)
-            {
-                output.Write(ManPage(program));
-                output.Flush();
-                return ExitStatus::Success;
-            }
-            std::ostringstream text;
-            const bool isHelp = program.exit(error, text, std::cerr) == 0;
-            output.Write(text.str());
-            output.Flush();
-            return isHelp ? ExitStatus::Success : ExitStatus::Usage;
-        }
-        for (const Command* const command :
-             {static_cast<const Command*>(&convert), static_cast<const Command*>(&check),
-              static_cast<const Command*>(&merge), static_cast<const Command*>(&timecode)})
-        {
-            if (command->IsChosen())
-                chosen = command;
-        }
-        const auto status = chosen->Run(output);
-        output.Flush();
-        return status;
+        program.parse(argc, argv);
     }
-    catch (const std::exception& error)
+    catch (const CLI::Success& asked)
     {
-        Report(std::string("tarvonel-json: ") + error.what());
-        return chosen ? chosen->StatusOfFailedOutput() : ExitStatus::Failure;
+        // Whatever is printed instead of running: the version, or the help of the program or a command.
+        output.Write(asked.get_name() == "CallForVersion" ? program.version() + '\n' : program.help());
+        output.Flush();
+        return ExitStatus::Success;
     }
+    catch (const CLI::ParseError& error)
+    {
+        if (isManPageWanted)
+        {
+            output.Write(ManPage(program));
+            output.Flush();
+            return ExitStatus::Success;
+        }
+        ReportUsageError(program, error, argc, argv);
+        return ExitStatus::Trouble;
+    }
+    auto status = ExitStatus::Success;
+    for (const Command* const command :
+         std::initializer_list<const Command*>{&convert, &check, &merge, &timecode, &help})
+    {
+        if (command->IsChosen())
+            status = command->Run(output);
+    }
+    output.Flush();
+    return status;
 }
 
 } // namespace
@@ -91,6 +90,18 @@ tarvonel-json COMMAND --help tells more, with examples.)");
 
 int main(int argc, char** argv)
 {
-    TarvonelJson::IgnoreBrokenPipes();
-    return static_cast<int>(TarvonelJson::RunProgram(argc, argv));
+    using namespace TarvonelJson;
+    try
+    {
+        return static_cast<int>(RunProgram(argc, argv));
+    }
+    catch (const std::bad_alloc&)
+    {
+        Report("memory does not suffice");
+    }
+    catch (const std::exception& error)
+    {
+        Report(error.what());
+    }
+    return static_cast<int>(ExitStatus::Trouble);
 }

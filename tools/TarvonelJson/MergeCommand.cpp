@@ -1,54 +1,43 @@
 #include <TarvonelJson/MergeCommand.h>
 
-#include <TarvonelJson/Conversion.h>
-#include <TarvonelJson/Input.h>
-#include <TarvonelJson/InputFiles.h>
+#include <TarvonelJson/Messages.h>
+#include <TarvonelJson/Printable.h>
+#include <TarvonelJson/Refusal.h>
 
 #include <Qiv/DataModel/Tarvonel/MediaIOs/MediaInput.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/MediaOutput.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ToText.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaIOToJsonConverter.h>
 
 #include <json/value.h>
-
-#include <memory>
-#include <stdexcept>
 
 namespace TarvonelJson
 {
 
 using namespace Qiv::DataModel::Tarvonel::MediaIOs;
 using namespace Qiv::DataModel::Tarvonel::Serialization::Json;
-using Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json::MediaIOToJsonConverter;
+using Documents::Layout;
 
 namespace
 {
 
-/// Its text is the whole message.
-class MergeError : public std::runtime_error
+/// A new channel for the first document; null when it is none of a channel.
+std::unique_ptr<MediaIO> MakeChannelFor(const Json::Value& document)
 {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-void ThrowIfFailed(const TextResult& result, const SourceText& source)
-{
-    if (!result)
-        throw MergeError(source.MessageStart(result.Position(), result.Pointer()) + result.ErrorMessage());
-}
-
-std::unique_ptr<MediaIO> MakeChannelFor(const SourceText& source)
-{
-    Json::Value document;
-    ThrowIfFailed(ParseText(source.text, document), source);
     const auto kind = KindOf(document);
     if (kind == DocumentKind::MediaInput)
         return std::make_unique<MediaInput>();
     if (kind == DocumentKind::MediaOutput)
         return std::make_unique<MediaOutput>();
-    throw MergeError(
-        source.MessageStart(PositionOf(source.text, document.getOffsetStart()), "") +
-        (kind ? "only channels can be merged: MediaInput or MediaOutput expected" : NoKindMessage(document)));
+    return nullptr;
+}
+
+Refusal OtherIdentifier(const SourceText& source, const Json::Value& document, const std::string& expected)
+{
+    return {PositionOf(source.text, document["id"].getOffsetStart()), "/id",
+            "\"" + Shortened(IdOf(document)) + "\" is another identifier than \"" + Shortened(expected) +
+                "\"; --any-id lets it become that of the result"};
 }
 
 } // namespace
@@ -60,13 +49,15 @@ in the order given, or nothing is written.
 
 Examples:
   tarvonel-json merge recorder.json recorder-update.json
-  receive-update | tarvonel-json merge --pretty player.json -
-
-Exit status: 0 the result was written, 1 it was not, 2 wrong usage.)")
+  receive-update | tarvonel-json merge --pretty player.json -)")
 {
     Arguments().add_option("BASE", base_, "The channel; - is standard input")->required()->type_name("");
     Arguments().add_option("UPDATE", updates_, "Documents to apply to it, of the same kind")->required()->type_name("");
+    Arguments().add_flag("--any-id", takesAnyIdentifier_, "Take also an update with another identifier");
+    InputFiles::AddMaximumBytesTo(Arguments(), maximumBytes_);
     Arguments().add_flag("--pretty", isPretty_, "Indent the result instead of writing one line");
+    Arguments().add_flag("--strict", isStrict_, "Refuse documents of which anything would be lost");
+    Arguments().add_flag("-q,--quiet", isQuiet_, "Do not tell what was skipped or replaced, nor look for it");
     Arguments().callback(
         [this]
         {
@@ -78,40 +69,57 @@ Exit status: 0 the result was written, 1 it was not, 2 wrong usage.)")
 
 ExitStatus MergeCommand::Run(Output& output) const
 {
-    std::unique_ptr<MediaIO> channel;
+    Channel channel;
+    Losses losses;
     auto names = updates_;
     names.insert(names.begin(), base_);
     for (const auto& name : names)
     {
-        SourceText source;
-        source.file = Input::DisplayName(name);
-        try
-        {
-            const auto text = Input(name, [] {}).ReadAll();
-            source.text = text;
-            if (!channel)
-                channel = MakeChannelFor(source);
-            ThrowIfFailed(MergeText(text, *channel), source);
-        }
-        catch (const InputError& error)
-        {
-            Report(source.file + ": " + error.what());
-            return ExitStatus::Failure;
-        }
-        catch (const MergeError& error)
-        {
-            Report(error.what());
-            return ExitStatus::Failure;
-        }
+        const auto status = InputFiles::ReadWhole(
+            name, maximumBytes_, [] {}, [&](const SourceText& source) { return Merge(source, channel, losses); });
+        if (status != ExitStatus::Success)
+            return status;
     }
-
-    auto stringer = MakeStringer(isPretty_);
-    if (const auto result = MediaIOToJsonConverter().To(*channel, stringer); !result)
+    const auto text = Documents::ToText(*channel, isPretty_ ? Layout::Pretty : Layout::Compact);
+    const auto timeCodes = isQuiet_ && !isStrict_ ? 0 : CountLostTimeCodes(text);
+    if (isStrict_ && timeCodes > 0)
     {
-        Report(std::string("tarvonel-json: ") + result.ErrorMessage());
-        return ExitStatus::Failure;
+        Report("the result has a time code without date, which is written in a form that no reader takes (refused by "
+               "--strict)");
+        return ExitStatus::Findings;
     }
-    output.Write(stringer.ToString() + '\n');
+    losses.Count(0, timeCodes);
+    output.WriteJson(text);
+    losses.Report();
+    return ExitStatus::Success;
+}
+
+ExitStatus MergeCommand::Merge(const SourceText& source, Channel& channel, Losses& losses) const
+{
+    Json::Value document;
+    if (const auto result = ParseText(source.text, document); !result)
+        return Report(source, NotJson(source, result));
+    const auto kind = KindOf(document);
+    if (!kind)
+        return Report(source, UnknownType(source, document));
+    if (!channel)
+        channel = MakeChannelFor(document);
+    if (!channel)
+        return Report(source, {PositionOf(source.text, document.getOffsetStart()), "",
+                               "only channels can be merged: MediaInput or MediaOutput expected"});
+    const auto& expected = channel->Id().Value();
+    const auto identifier = IdOf(document);
+    if (!takesAnyIdentifier_ && !expected.empty() && !identifier.empty() && identifier != expected)
+        return Report(source, OtherIdentifier(source, document, expected));
+    if (const auto result = MergeText(source.text, *channel); !result)
+        return Report(source, {result.Position(), result.Pointer(), result.ErrorMessage()});
+    if (isStrict_ || !isQuiet_)
+    {
+        const auto findings = InspectDocument(document);
+        if (isStrict_ && !findings.empty())
+            return Report(source, RefusalOfLoss(source, findings));
+        losses.Count(findings.size(), 0);
+    }
     return ExitStatus::Success;
 }
 

@@ -1,7 +1,13 @@
 #pragma once
 
 #include <TarvonelJson/Command.h>
+#include <TarvonelJson/InputFiles.h>
+#include <TarvonelJson/Losses.h>
 
+#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaIO.h>
+
+#include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -17,9 +23,17 @@ public:
     ExitStatus Run(Output& output) const override;
 
 private:
+    using Channel = std::unique_ptr<Qiv::DataModel::Tarvonel::MediaIOs::MediaIO>;
+
+    ExitStatus Merge(const SourceText& source, Channel& channel, Losses& losses) const;
+
     std::string base_;
     std::vector<std::string> updates_;
+    std::uint64_t maximumBytes_ = InputFiles::defaultMaximumBytes;
     bool isPretty_ = false;
+    bool isQuiet_ = false;
+    bool isStrict_ = false;
+    bool takesAnyIdentifier_ = false;
 };
 
 } // namespace TarvonelJson

@@ -1,24 +1,17 @@
 #include <TarvonelJson/SourceText.h>
 
-#include <cstdio>
+#include <TarvonelJson/Printable.h>
 
 namespace TarvonelJson
 {
 
-std::string SourceText::MessageStart(const Position& position, const std::string& pointer) const
+std::string SourceText::MessageStart(const Position& position, std::string_view pointer) const
 {
     const auto inFile = InFile(position);
-    auto start = file + ':' + std::to_string(inFile.line) + ':' + std::to_string(inFile.column) + ": ";
+    auto start = ShortFileName(file) + ':' + std::to_string(inFile.line) + ':' + std::to_string(inFile.column) + ": ";
     if (!pointer.empty())
-        start += pointer + ": ";
+        start += Shortened(pointer, 120) + ": ";
     return start;
-}
-
-void Report(const std::string& message)
-{
-    const auto line = message + '\n';
-    // A message that nobody can receive changes nothing.
-    static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
 }
 
 } // namespace TarvonelJson

@@ -19,15 +19,15 @@ struct SourceText
     std::string file;
     /// The line of the file on which the text begins.
     std::size_t firstLine = 1;
+    /// Whether it is a line of its file; otherwise it is the whole file.
+    bool isLine = false;
 
     /// A place in the text as a place in the file.
     Position InFile(const Position& position) const { return {position.line + firstLine - 1, position.column}; }
 
-    /// The beginning of a message: `server.json:3:14: /name: `, without the pointer when it is empty.
-    std::string MessageStart(const Position& position, const std::string& pointer) const;
+    /// The beginning of a message: `server.json:3:14: /name: `, without the pointer when it is empty. Long names and
+    /// pointers are cut.
+    std::string MessageStart(const Position& position = {}, std::string_view pointer = {}) const;
 };
-
-/// Writes a line on standard error, in one piece.
-void Report(const std::string& message);
 
 } // namespace TarvonelJson

@@ -1,0 +1,76 @@
+#include <TarvonelJson/CheckedFinding.h>
+
+#include <TarvonelJson/Messages.h>
+#include <TarvonelJson/Places.h>
+#include <TarvonelJson/Printable.h>
+#include <TarvonelJson/Refusal.h>
+
+#include <Qiv/Common/Serialization/Json/Stringer.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
+
+#include <json/value.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+namespace TarvonelJson
+{
+
+using namespace Qiv::DataModel::Tarvonel::Serialization::Json;
+using Qiv::Common::Serialization::Json::Stringer;
+
+namespace
+{
+
+CheckedFinding FromRefusal(Refusal refusal, const char* kind, Level level)
+{
+    return {refusal.position, std::move(refusal.pointer), kind, std::move(refusal.sentence), "", level};
+}
+
+} // namespace
+
+std::vector<CheckedFinding> CheckDocument(const SourceText& source)
+{
+    Json::Value document;
+    if (const auto result = ParseText(source.text, document); !result)
+        return {FromRefusal(NotJson(source, result), "invalid-json", Level::NotJson)};
+    if (!KindOf(document))
+        return {FromRefusal(UnknownType(source, document), "unknown-type", Level::Failure)};
+
+    auto findings = InspectDocument(document);
+    std::stable_sort(findings.begin(), findings.end(),
+                     [](const Finding& left, const Finding& right) { return left.offset < right.offset; });
+    Places places(source.text);
+    std::vector<CheckedFinding> checked;
+    checked.reserve(findings.size());
+    for (auto& finding : findings)
+    {
+        checked.push_back({places.Of(finding.offset), std::move(finding.pointer), std::string(ToString(finding.kind)),
+                           std::move(finding.sentence), std::move(finding.readerMessage), LevelOf(finding.kind)});
+    }
+    return checked;
+}
+
+std::string AsText(const SourceText& source, const CheckedFinding& finding, bool isColoured)
+{
+    const auto* const mark = finding.level == Level::Fatal ? "FATAL: " : "";
+    return MessageLine(source.MessageStart(finding.position, finding.pointer), mark + finding.sentence, isColoured);
+}
+
+std::string AsJson(const SourceText& source, const CheckedFinding& finding)
+{
+    const auto position = source.InFile(finding.position);
+    Stringer json;
+    json.Object().Key("file").Value(source.file);
+    json.Key("line").Value(static_cast<std::int32_t>(position.line));
+    json.Key("column").Value(static_cast<std::int32_t>(position.column));
+    json.Key("pointer").Value(finding.pointer).Key("kind").Value(finding.kind).Key("sentence").Value(finding.sentence);
+    if (!finding.readerMessage.empty())
+        json.Key("readerMessage").Value(finding.readerMessage);
+    json.CloseObject();
+    return PrintableJson(json.ToString());
+}
+
+} // namespace TarvonelJson
