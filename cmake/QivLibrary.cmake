@@ -105,4 +105,5 @@ function(qiv_install_package)
     # What programs in other languages need lies beside the tool.
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/schema/ DESTINATION ${CMAKE_INSTALL_DATADIR}/qiv/schema
         COMPONENT tool FILES_MATCHING PATTERN *.json PATTERN *.d.ts)
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/tests/cases/ DESTINATION ${CMAKE_INSTALL_DATADIR}/qiv/cases COMPONENT tool)
 endfunction()

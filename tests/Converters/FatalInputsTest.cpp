@@ -1,16 +1,21 @@
 #include "Conversions.h"
 
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
+
 #include <gtest/gtest.h>
 
 #include <unistd.h>
 
 #include <csignal>
 #include <memory>
-#include <string>
 #include <utility>
 
 namespace Qiv::Tests
 {
+
+using namespace DataModel::Tarvonel::Serialization::Json;
+
 namespace
 {
 
@@ -24,32 +29,35 @@ static_assert(areNoexcept<JsonToBoundaryConverter, std::unique_ptr<Boundary>, Bo
 static_assert(areNoexcept<JsonToMediaInputConverter, MediaInput, MediaInputToJsonConverter>);
 static_assert(areNoexcept<JsonToMediaOutputConverter, MediaOutput, MediaOutputToJsonConverter>);
 
-template <typename Reader, typename Entity>
-void ReadAny(const std::string& text)
-{
-    Entity entity;
-    static_cast<void>(Reader().To(Parse(text), entity));
-}
-
-TEST(FatalInputsDeathTest, EndInTerminate)
+/// The reader ends the process; what looks first says so, and the entity stays as it is.
+template <typename Entity, typename Reader = ReaderOf<Entity>>
+void CheckFatal(const Case& each)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const testing::KilledBySignal dies(SIGABRT);
-    const std::string absoluteOrigin = R"({"_type":"BoundaryRelative","origin":"Absolute"})";
-    const std::string badOrigin = "terminat.*: +Bad origin for BoundaryRelative\n";
-    EXPECT_EXIT((ReadAny<JsonToBoundaryConverter, std::unique_ptr<Boundary>>(absoluteOrigin)), dies, badOrigin);
-    for (const std::string key : {"inBoundary", "outBoundary"})
+    for (const auto& document : each.Documents())
     {
-        const auto document = R"({"_type":"MediaOutput",")" + key + "\":" + absoluteOrigin + "}";
-        EXPECT_EXIT((ReadAny<JsonToMediaIOConverter, MediaOutput>(document)), dies, badOrigin);
-    }
-    for (const std::string value :
-         {"", " ", "abc", "-", "+-5", "9223372036854775808", "-9223372036854775809", "\\u0000"})
-    {
-        const auto document = R"({"currentTimePointOnAir":{"_type":"TimePoint","value":")" + value + "\"}}";
-        EXPECT_EXIT((ReadAny<JsonToMediaOutputConverter, MediaOutput>(document)), dies, "terminat.*: +stoll\n");
+        SCOPED_TRACE(document);
+        Entity entity{};
+        EXPECT_EXIT(static_cast<void>(Reader().To(Parse(document), entity)), testing::KilledBySignal(SIGABRT),
+                    "terminat.*: +" + each.Text("message") + "\n");
+        const auto findings = InspectDocument(Parse(document));
+        ASSERT_NE(FirstFatal(findings), nullptr);
+        EXPECT_EQ(FirstFatal(findings)->readerMessage, each.Text("message"));
+        const auto before = Written(entity);
+        EXPECT_EQ(MergeText(document, entity).ErrorMessage(), FirstFatal(findings)->sentence);
+        EXPECT_EQ(Written(entity), before);
     }
 }
+
+const bool areRegistered =
+    RegisterCases("Fatal.json",
+                  [](const Case& each)
+                  {
+                      EachConverter(each, "readers",
+                                    {{"Boundary", CheckFatal<std::unique_ptr<Boundary>>},
+                                     {"MediaOutput", CheckFatal<MediaOutput, JsonToMediaOutputConverter>},
+                                     {"MediaOutput by MediaIO", CheckFatal<MediaOutput>}});
+                  });
 
 // In a process of its own, where nobody has written a player channel before.
 TEST(FatalInputsDeathTest, TheFirstPlayersTimePointWriterIsKept)
