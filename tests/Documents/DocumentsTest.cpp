@@ -10,9 +10,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace Qiv::Tests
 {
@@ -92,6 +94,63 @@ TEST(AnyDocument, IsRefusedWithTheReadersTextAndItsPlace)
     for (const auto* const notAnObject : {"null", "1", "\"{}\""}) // which ParseText lets nobody have
         EXPECT_EQ(ReadAny(JsonObject(notAnObject)).ErrorMessage(), "MediaIO is empty");
     EXPECT_THROW(ReadAnyText("{}").Entity(), std::bad_optional_access);
+}
+
+TEST(ReadOptions, RefuseWhatTheReaderWouldPassOver)
+{
+    constexpr auto all = FindingKinds::All();
+    constexpr FindingKinds two{FindingKind::UnknownMember, FindingKind::WrongType};
+    const struct
+    {
+        const char* text;
+        FindingKinds refuse;
+        const char* told;
+        std::size_t findings;
+    } cases[] = {
+        {R"({"_type":"Node","id":"n1"})", all, "read", 0},
+        {R"({"_type":"Node","id":"n1","x":1})", {}, "read", 1},
+        {R"({"_type":"Node","id":"n1","x":1})", all, "1:31 /x: \"x\" is no member of Node; it is skipped", 1},
+        {R"({"_type":"Node","id":"n1","x":1})", FindingKind::WrongType, "read", 1},
+        {"{\"_type\":\"Node\",\"id\":\"n1\",\"x\":1,\n\"chassis\":6}", two,
+         "2:11 /chassis: is an integer of 32 bits, where a string belongs; it is skipped", 2},
+        // Failures are told in the reader's order, and by its text.
+        {R"({"_type":"MediaInput","lastTimePoint":5,"x":1})", all, "1:39 /lastTimePoint: TimePoint is empty", 2},
+        {R"({"_type":"MediaInput","recordingStatus":"?","lastTimePoint":5})", all,
+         "1:41 /recordingStatus: \"?\" is none of Idle, Pause, Recording; it is read as Idle", 2},
+        {R"({"_type":"BoundaryRelative","origin":"Absolute"})", FindingKind::EndsProcess,
+         "1:38 /origin: \"Absolute\" is the origin of a relative boundary, which ends the process", 1},
+        // Another identifier than "n1", which is expected.
+        {R"({"_type":"Node","id":"n2","x":1})", {}, R"(1:22 /id: "n2" is another identifier than "n1")", 1},
+        {R"({"_type":"MediaInput","id":"n1\u0000"})", {}, R"(1:28 /id: "n1\u0000" is another identifier than "n1")", 0},
+        {R"({"_type":"Node","id":""})", {}, "read", 0},
+        {R"({"_type":"MediaOutput"})", {}, "read", 0},
+        {R"({"_type":"MediaOutput","id":2})", {}, "read", 1},
+        {R"({"_type":"Speed","id":"n2"})", {}, "read", 1},
+        {"{", all, "1:2 : ", 0},
+    };
+    std::vector<Finding> findings;
+    for (const auto& each : cases)
+    {
+        SCOPED_TRACE(each.text);
+        ReadOptions options;
+        options.refuse = each.refuse;
+        options.expectedId = "n1";
+        const auto unasked = ReadAnyText(each.text, options);
+        EXPECT_EQ(Told(unasked).substr(0, std::string(each.told).size()), each.told);
+        options.findings = &findings;
+        EXPECT_EQ(Told(ReadAnyText(each.text, options)), Told(unasked));
+        EXPECT_EQ(findings.size(), each.findings);
+        options.maximumFindings = 1;
+        EXPECT_EQ(Told(ReadAnyText(each.text, options)), Told(unasked));
+        EXPECT_EQ(findings.size(), std::min<std::size_t>(each.findings, 1));
+        JsonObject json;
+        if (ParseText(each.text, json))
+        {
+            EXPECT_EQ(ReadAny(json, options).ErrorMessage(), unasked.ErrorMessage());
+        }
+    }
+    ReadOptions nothingExpected;
+    EXPECT_EQ(Told(ReadAnyText(R"({"_type":"Node","id":"n2"})", nothingExpected)), "read");
 }
 
 TEST(AnyDocument, HasAnIdentifierOnlyWhereAReaderTakesOne)

@@ -1,5 +1,6 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
 
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Refusal.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
@@ -69,13 +70,15 @@ Result ReadKind(const JsonObject& json, DocumentKind kind, AnyEntity& target)
     return ReadAs<std::unique_ptr<Boundary>>(json, target);
 }
 
-AnyResult Read(const JsonObject& json, std::string_view text)
+AnyResult Read(const JsonObject& json, const ReadOptions& options, std::string_view text)
 {
     const auto failure = [text](const Finding& finding, const std::string& message)
     { return TextResult(message, PositionOf(text, finding.offset), finding.pointer); };
 
     // A document of no kind is read as a channel, which fails without taking anything from it.
     const auto kind = KindOf(json).value_or(DocumentKind::MediaInput);
+    if (auto refusal = Details::RefusalOf(json, kind, options, text); !refusal)
+        return refusal;
     if (kind == DocumentKind::MediaOutput || kind == DocumentKind::Boundary) // of others nothing ends the process
     {
         const auto findings = InspectDocument(json, kind);
@@ -93,17 +96,21 @@ AnyResult Read(const JsonObject& json, std::string_view text)
 
 } // namespace
 
-AnyResult ReadAny(const JsonObject& json)
+AnyResult ReadAny(const JsonObject& json, const ReadOptions& options)
 {
-    return Read(json, {});
+    return Read(json, options, {});
 }
 
-AnyResult ReadAnyText(std::string_view text)
+AnyResult ReadAnyText(std::string_view text, const ReadOptions& options)
 {
     JsonObject json;
     if (auto result = ParseText(text, json); !result)
+    {
+        if (options.findings != nullptr)
+            options.findings->clear();
         return result;
-    return Read(json, text);
+    }
+    return Read(json, options, text);
 }
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Documents
