@@ -59,7 +59,8 @@ TEST(GenericMetadataProfile, AssignsWhatItSets)
         set.Set(key, value);
         assigned.Assign(key, value);
         expected[key] = value;
-        EXPECT_TRUE(set == *MakeProfile("", expected) && assigned == set) << key;
+        EXPECT_TRUE(set == *MakeProfile("", expected)) << key;
+        EXPECT_TRUE(assigned == set) << key;
     }
     assigned.Assign("c", std::string_view(assigned["c"]).substr(7)); // a part of the value that it replaces
     EXPECT_EQ(assigned.Get("c"), "than what a string holds in itself");
@@ -86,7 +87,10 @@ TEST(GenericMetadataProfile, VisitsPairsInKeyOrderUntilToldToStop)
     EXPECT_EQ(profile->Values(), (std::vector<std::string>{"1a", "2b", "3c", "4\xC3"}));
 
     const auto clone = profile->Clone();
-    EXPECT_TRUE(profile->Erase("a") && !profile->Contains("a") && !profile->Erase("a") && profile->Contains("b"));
+    EXPECT_TRUE(profile->Erase("a"));
+    EXPECT_FALSE(profile->Contains("a"));
+    EXPECT_FALSE(profile->Erase("a"));
+    EXPECT_TRUE(profile->Contains("b"));
     EXPECT_EQ(profile->Size(), 3);
     const std::function<bool(const std::string&, const std::string&)> none;
     EXPECT_THROW(constant.Iterate(none), std::bad_function_call);
@@ -108,17 +112,21 @@ TEST(MetadataProfileDictionary, SharesProfilesWithCopiesButNotWithClones)
     MetadataProfileDictionary deepCopy;
     deepCopy.Set(MakeProfile("gone", {}));
     deepCopy.DeepCopy(dictionary);
-    EXPECT_TRUE(dictionary == copy && dictionary == clone && dictionary == deepCopy);
+    EXPECT_TRUE(dictionary == copy);
+    EXPECT_TRUE(dictionary == clone);
+    EXPECT_TRUE(dictionary == deepCopy);
     EXPECT_EQ(deepCopy.Keys(), (std::vector<Name>{Name("a"), Name("b"), Name("null")}));
 
     profile->Set("k", "changed");
     EXPECT_TRUE(dictionary == copy);
-    EXPECT_TRUE(dictionary != clone && dictionary != deepCopy);
+    EXPECT_TRUE(dictionary != clone);
+    EXPECT_TRUE(dictionary != deepCopy);
     deepCopy.DeepCopy(deepCopy);
     EXPECT_TRUE(deepCopy == clone);
 
     deepCopy.Set(Name("null"), MakeProfile("null", {}));
-    EXPECT_TRUE(deepCopy != clone && clone != deepCopy);
+    EXPECT_TRUE(deepCopy != clone);
+    EXPECT_TRUE(clone != deepCopy);
     deepCopy.Erase(Name("a"));
     deepCopy.Set(MakeProfile("other", {}));
     EXPECT_TRUE(deepCopy != clone);
@@ -142,7 +150,8 @@ TEST(MetadataProfileDictionary, FindsStoresAndErasesByName)
         EXPECT_EQ(ThrownText<std::out_of_range>([&] { dictionary[name]; }), "map::at");
     }
     EXPECT_THROW(dictionary.Set(nullptr), std::invalid_argument);
-    EXPECT_FALSE(dictionary.Erase(Name("absent")) || dictionary.Erase(std::shared_ptr<MetadataProfile>()));
+    EXPECT_FALSE(dictionary.Erase(Name("absent")));
+    EXPECT_FALSE(dictionary.Erase(std::shared_ptr<MetadataProfile>()));
     EXPECT_TRUE(dictionary.Erase(first)); // by its name
     EXPECT_TRUE(dictionary.Erase(Name("null")));
     EXPECT_TRUE(dictionary.Empty());

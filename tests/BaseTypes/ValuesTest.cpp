@@ -63,7 +63,10 @@ TEST(Optional, BehavesAsTheStandardOneUnderRandomOperations)
             for (const auto i : {0, 1})
             {
                 ASSERT_EQ(actual[i].HasValue(), expected[i].has_value()) << step;
-                ASSERT_TRUE(!expected[i] || actual[i].Value() == *expected[i]) << step;
+                if (expected[i])
+                {
+                    ASSERT_EQ(actual[i].Value(), *expected[i]) << step;
+                }
             }
             ASSERT_EQ(actual[0] == actual[1], expected[0] == expected[1]) << step;
         }
@@ -142,7 +145,9 @@ TEST(SharedReference, TakesTheIdentifierOfEachObjectItIsGiven)
     const auto entity = MakeEntity("e");
     const std::weak_ptr<Entity> weak = entity;
     Reference assigned;
-    EXPECT_TRUE(assigned.IsEmpty() && !assigned && !Reference(MakeEntity("")).IsEmpty());
+    EXPECT_TRUE(assigned.IsEmpty());
+    EXPECT_FALSE(assigned);
+    EXPECT_FALSE(Reference(MakeEntity("")).IsEmpty());
     EXPECT_EQ(ThrownText<std::runtime_error>([&] { assigned.Value(); }), "null pointer");
     EXPECT_THROW(assigned->id = Identifier(), std::runtime_error);
     assigned = entity;
@@ -169,7 +174,8 @@ TEST(SharedReference, TakesTheIdentifierOfEachObjectItIsGiven)
     EXPECT_TRUE(assigned.IsEmpty());
     unique.Pointer(std::shared_ptr<Entity>());
     EXPECT_EQ(unique.Pointer(), nullptr);
-    EXPECT_TRUE(unique == Reference(Identifier("new")) && unique);
+    EXPECT_EQ(unique, Reference(Identifier("new")));
+    EXPECT_TRUE(unique);
 }
 
 constexpr const char* duplicateText =
@@ -203,7 +209,10 @@ TEST(SortedVector, BehavesAsASetUnderRandomOperations)
         }
         ASSERT_EQ(actual.Values(), std::vector<int>(expected.begin(), expected.end()));
         ASSERT_THROW(actual[expected.size()], std::out_of_range);
-        ASSERT_TRUE(expected.empty() || (actual.Front() == *expected.begin() && actual.Back() == *expected.rbegin()));
+        if (expected.empty())
+            continue;
+        ASSERT_EQ(actual.Front(), *expected.begin());
+        ASSERT_EQ(actual.Back(), *expected.rbegin());
     }
     actual.Values({3, 1, 2});
     EXPECT_EQ(ThrownText<std::runtime_error>([&] { actual.Values({5, 4, 5}); }), duplicateText);
@@ -250,7 +259,8 @@ TEST(SortedVectorOfPointers, OrdersByTheObjectsNullFirstAndRefusesExpiredOnes)
     pointers.Clear(), others.Clear(), seven.reset();
     EXPECT_EQ(ThrownText<std::runtime_error>([&] { static_cast<void>(weak == weak); }), expiredText);
     EXPECT_EQ(ThrownText<std::runtime_error>([&] { weak.Sort(); }), expiredText);
-    EXPECT_TRUE(weak.Size() == 2 && weak.Front().lock() == five);
+    EXPECT_EQ(weak.Size(), 2);
+    EXPECT_EQ(weak.Front().lock(), five);
 }
 
 } // namespace

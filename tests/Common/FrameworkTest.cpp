@@ -24,17 +24,20 @@ TEST(Result, IsAFailureExactlyWhenAMessageIsGiven)
     for (const auto& [result, message] : failures)
     {
         const Result copy = result;
-        EXPECT_FALSE(result || copy);
+        EXPECT_FALSE(result);
+        EXPECT_FALSE(copy);
         EXPECT_STREQ(copy.ErrorMessage(), message);
         EXPECT_STREQ(result.ErrorMessage(), message);
         Result assigned;
         assigned = result;
         const auto& self = assigned;
         assigned = self;
-        EXPECT_TRUE(!assigned && std::string(assigned.ErrorMessage()) == message);
+        EXPECT_FALSE(assigned);
+        EXPECT_STREQ(assigned.ErrorMessage(), message);
         const Result success;
         assigned = success;
-        EXPECT_TRUE(assigned && Result(success));
+        EXPECT_TRUE(assigned);
+        EXPECT_TRUE(Result(success));
         EXPECT_STREQ(assigned.ErrorMessage(), "");
     }
 }

@@ -56,7 +56,8 @@ TEST(Boundary, IsEqualByKindAndFields)
         if (const auto clone = left->Clone())
         {
             EXPECT_NE(clone, left);
-            EXPECT_TRUE(clone->Equals(*left) && left->Equals(*clone));
+            EXPECT_TRUE(clone->Equals(*left));
+            EXPECT_TRUE(left->Equals(*clone));
         }
     }
     EXPECT_TRUE(BoundaryRelative().Equals(BoundaryRelative(BoundaryOrigin::RelativeToCorrespondingMediaBoundary, 0)));
@@ -73,11 +74,13 @@ TEST(PelOperatorMetadataProfile, IsEqualByKindAndFields)
 {
     PelOperatorMetadataProfile profile, other;
     const BaseTypes::GenericMetadataProfile generic(profile.FullyQualifiedName());
-    EXPECT_FALSE(profile == generic || generic == profile);
+    EXPECT_FALSE(profile == generic);
+    EXPECT_FALSE(generic == profile);
     profile.ServerId(10);
     EXPECT_FALSE(profile == other);
     other.ServerId(10);
-    EXPECT_TRUE(profile == other && profile == *profile.Clone());
+    EXPECT_TRUE(profile == other);
+    EXPECT_TRUE(profile == *profile.Clone());
     profile.Index(-1);
     EXPECT_FALSE(profile == other);
 }
@@ -99,7 +102,10 @@ TEST(MediaOutput, OwnsTwoBoundariesThatAreNeverNull)
     moved = std::move(copy);
     EXPECT_EQ(moved.InBoundary().get(), in);
     for (const auto* boundary : {&copy.InBoundary(), &copy.OutBoundary()}) // moved from on purpose
-        EXPECT_TRUE(*boundary != nullptr && (*boundary)->IsEmpty());
+    {
+        ASSERT_NE(*boundary, nullptr);
+        EXPECT_TRUE((*boundary)->IsEmpty());
+    }
 
     auto& self = moved;
     moved = std::as_const(self);

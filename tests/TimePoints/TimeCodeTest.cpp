@@ -112,8 +112,10 @@ TEST_P(LabelsOfADay, AreConsecutiveSamplesAndFormatBackToThemselves)
             ASSERT_TRUE(QivTimeCodeFormatter::FormatTo(TimeCode(total, isDrop, Rate(rate), true), buffer) == label)
                 << label << " is written as " << buffer;
             TimeCode read;
-            ASSERT_TRUE(frame >= 100 || (QivTimeCodeParser::TryRead(label, read) && read.TotalSample() == total))
-                << label << " is read as " << read.TotalSample() << ", not " << total;
+            if (frame >= 100)
+                continue; // no text of a time code
+            ASSERT_TRUE(QivTimeCodeParser::TryRead(label, read)) << label;
+            ASSERT_EQ(read.TotalSample(), total) << label;
         }
     }
     EXPECT_EQ(total - first, TimeCode(0, isDrop, Rate(rate), true).SamplePerDay());
@@ -189,7 +191,11 @@ TEST(TimeCode, HasNoUndefinedBehaviourForAnyFields)
             timeCode.AddSkippedHmsSamplesInNtscDrop(total);
             timeCode.DateTimeToSample(INT32_MAX, INT32_MIN, INT32_MIN, INT32_MAX, INT32_MIN, INT32_MIN, INT32_MAX);
             ++--timeCode;
-            EXPECT_TRUE(different.insert(timeCode += total).second || rate == 0);
+            timeCode += total;
+            if (rate != 0)
+            {
+                EXPECT_TRUE(different.insert(timeCode).second) << text;
+            }
         }
     EXPECT_EQ(TimeCode(maximum, false, Rate(0), true).ToString(), "1900-01-01T00:00:00:00@0");
     EXPECT_EQ(TimeCode(-25, false, Rate(25), true).ToString(), "1900-01-01T00:00:0-1:00@25");
