@@ -1,4 +1,4 @@
-#include <Qiv/Common/Serialization/Json/KnownMembers.h>
+#include <Qiv/Common/Serialization/Json/Details/KnownMembers.h>
 #include <Qiv/Common/Serialization/Result.h>
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-namespace Qiv::Common::Serialization::Json
+namespace Qiv::Common::Serialization::Json::Details
 {
 namespace
 {
@@ -42,17 +42,13 @@ TEST(Result, IsAFailureExactlyWhenAMessageIsGiven)
     }
 }
 
-struct Keys
+struct TestForm : JsonForm<TestForm>
 {
-    enum class Index
-    {
-        Type,
-        A,
-        AB,
-        B,
-        Z
-    };
-    static constexpr std::array<std::string_view, 5> names{"_type", "a", "ab", "b", "z\xC3\xA9"};
+    static constexpr Member a{"a", JsonType::Any};
+    static constexpr Member ab{"ab", JsonType::Any};
+    static constexpr Member b{"b", JsonType::Any};
+    static constexpr Member z{"z\xC3\xA9", JsonType::Any};
+    static constexpr auto members = ListOf(type, a, ab, b, z);
 };
 
 TEST(KnownMembers, FindsWhatALookUpPerKeyFinds)
@@ -68,13 +64,15 @@ TEST(KnownMembers, FindsWhatALookUpPerKeyFinds)
             if ((subset >> i & 1U) != 0)
                 json[candidates[i]] = (subset + i) % 3 == 0 ? JsonObject() : JsonObject(static_cast<int>(i));
         }
-        const KnownMembers<Keys> members(json);
-        for (std::size_t i = 0; i < Keys::names.size(); ++i)
+        const KnownMembers<TestForm> members(json);
+        const ValueView found[] = {members.Get<TestForm::a>(), members.Get<TestForm::ab>(), members.Get<TestForm::b>(),
+                                   members.Get<TestForm::z>()};
+        for (std::size_t i = 0; i < std::size(found); ++i)
         {
-            const auto* const member = members.Any(static_cast<Keys::Index>(i));
-            ASSERT_EQ(member, FindMember(json, Keys::names[i])) << json.toStyledString();
-            ASSERT_EQ(member != nullptr, json.isMember(candidates[i]) && !json[candidates[i]].isNull())
-                << json.toStyledString();
+            const auto& candidate = candidates[i + 1];
+            const auto* const expected =
+                json.isMember(candidate) && !json[candidate].isNull() ? &json[candidate] : nullptr;
+            ASSERT_EQ(found[i].Tree(), expected) << candidate << " of " << json.toStyledString();
         }
     }
 }
@@ -113,4 +111,4 @@ TEST(KeyTable, ComparesEveryCharacterAndReadsNoFurther)
 }
 
 } // namespace
-} // namespace Qiv::Common::Serialization::Json
+} // namespace Qiv::Common::Serialization::Json::Details

@@ -1,5 +1,7 @@
 #include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
 
+#include <Qiv/Common/Serialization/Json/Details/TimePointForm.h>
+
 #include <cstring>
 
 namespace Qiv::Common::Serialization::Json
@@ -38,7 +40,9 @@ void AppendNanosecondsObject(Stringer& stringer, std::string_view type, std::int
         ++begin;
     if (isNegative)
         *--begin = '-'; // 64 bits have 19 digits, so there is a leading zero
-    stringer.ObjectOf({{"_type", type}, {"value", std::string_view(begin, static_cast<std::size_t>(end - begin))}});
+    stringer.ObjectOf({{Details::keyOf<Details::TimePointForm::type>, type},
+                       {Details::keyOf<Details::TimePointForm::value>,
+                        std::string_view(begin, static_cast<std::size_t>(end - begin))}});
 }
 
 } // namespace Qiv::Common::Serialization::Json

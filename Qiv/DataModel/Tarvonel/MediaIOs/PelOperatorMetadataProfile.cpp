@@ -9,7 +9,7 @@ PelOperatorMetadataProfile::~PelOperatorMetadataProfile() = default;
 
 BaseTypes::FullyQualifiedName PelOperatorMetadataProfile::FullyQualifiedName() const
 {
-    return std::string("qiv.peloperator");
+    return BaseTypes::FullyQualifiedName(Name());
 }
 
 bool PelOperatorMetadataProfile::Equals(const BaseTypes::MetadataProfile& other) const

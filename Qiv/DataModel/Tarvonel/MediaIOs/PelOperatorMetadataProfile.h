@@ -6,11 +6,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 
 namespace Qiv::DataModel::Tarvonel::MediaIOs
 {
 
-/// The profile "qiv.peloperator": which operator works on the channel, and from which server.
+/// Which operator works on the channel, and from which server.
 class QIV_DATAMODEL_TARVONEL_EXPORT PelOperatorMetadataProfile : public BusinessEntityModel::BaseTypes::MetadataProfile
 {
 public:
@@ -22,7 +23,10 @@ public:
     PelOperatorMetadataProfile& operator=(const PelOperatorMetadataProfile&) = default;
     ~PelOperatorMetadataProfile() override;
 
-    /// Always "qiv.peloperator".
+    /// The name of the profile in every dictionary.
+    static constexpr std::string_view Name() noexcept { return "qiv.peloperator"; }
+
+    /// Always `Name()`.
     BusinessEntityModel::BaseTypes::FullyQualifiedName FullyQualifiedName() const override;
     /// True when `other` is an operator profile with the same server and index.
     bool Equals(const BusinessEntityModel::BaseTypes::MetadataProfile& other) const override;

@@ -1,5 +1,7 @@
 #include <Qiv/BusinessEntityModel/Edits/Serialization/Json/SequenceToJsonConverter.h>
 
+#include <Qiv/BusinessEntityModel/Edits/Serialization/Json/Details/SequenceForm.h>
+
 namespace Qiv::BusinessEntityModel::Edits::Serialization::Json
 {
 
@@ -8,12 +10,14 @@ SequenceToJsonConverter::~SequenceToJsonConverter() = default;
 Common::Serialization::Result SequenceToJsonConverter::To(const Sequence& sequence,
                                                           Common::Serialization::Json::Stringer& stringer) const
 {
-    stringer.Object();
-    stringer.Member("_type", "Sequence");
-    stringer.Member("id", sequence.Id().Value().c_str());
+    using Common::Serialization::Json::Details::keyOf;
+    using Form = Details::SequenceForm;
+
+    const auto object = stringer.ObjectScope();
+    stringer.Member(keyOf<Form::type>, Form::tag);
+    stringer.Member(keyOf<Form::id>, sequence.Id().Value().c_str());
     if (!sequence.Name().empty())
-        stringer.Member("name", sequence.Name().c_str());
-    stringer.CloseObject();
+        stringer.Member(keyOf<Form::name>, sequence.Name().c_str());
     return {};
 }
 

@@ -52,9 +52,9 @@ public:
         ReferenceForm form;
         if (auto result = ReadReferenceForm(json, typeProperty_, embeddedProperty_, form); !result)
             return result;
-        if (form.id != nullptr)
+        if (form.embedded == nullptr)
         {
-            reference = IdentifierOf(*form.id);
+            reference = std::move(form.id);
             return {};
         }
         if (fromJsonConverter_ == nullptr)

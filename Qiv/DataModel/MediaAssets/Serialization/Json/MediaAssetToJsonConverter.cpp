@@ -1,5 +1,6 @@
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/MediaAssetToJsonConverter.h>
 
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/Details/MediaAssetForm.h>
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
 
 #include <utility>
@@ -9,6 +10,7 @@ namespace Qiv::DataModel::MediaAssets::Serialization::Json
 
 using namespace Common::Serialization::Json;
 using Common::Serialization::Result;
+using Common::Serialization::Json::Details::keyOf;
 using TimePoints::TimePoint;
 
 namespace
@@ -16,19 +18,21 @@ namespace
 
 Result AppendMembers(const MediaAsset& mediaAsset, const ToJsonConverter<TimePoint>& timePoints, Stringer& stringer)
 {
-    stringer.Member("_type", "MediaAsset");
-    stringer.Member("id", mediaAsset.Id().Value().c_str());
+    using Form = Details::MediaAssetForm;
+
+    stringer.Member(keyOf<Form::type>, Form::tag);
+    stringer.Member(keyOf<Form::id>, mediaAsset.Id().Value().c_str());
     if (!mediaAsset.Name().empty())
-        stringer.Member("name", mediaAsset.Name().c_str());
+        stringer.Member(keyOf<Form::name>, mediaAsset.Name().c_str());
     if (mediaAsset.InPoint() != TimePoint::Empty())
     {
-        stringer.Key("inPoint");
+        stringer.Key(keyOf<Form::inPoint>);
         if (auto result = AppendNested(stringer, timePoints, mediaAsset.InPoint()); !result)
             return result;
     }
     if (mediaAsset.OutPoint() != TimePoint::Empty())
     {
-        stringer.Key("outPoint");
+        stringer.Key(keyOf<Form::outPoint>);
         if (auto result = AppendNested(stringer, timePoints, mediaAsset.OutPoint()); !result)
             return result;
     }
@@ -51,10 +55,8 @@ Result MediaAssetToJsonConverter::To(const MediaAsset& mediaAsset, Stringer& str
     const TimePointToJsonObjectConverter defaultConverter;
     const TimePointWriter* const timePoints = timepointConverter_ ? timepointConverter_.get() : &defaultConverter;
 
-    stringer.Object();
-    auto result = AppendMembers(mediaAsset, *timePoints, stringer);
-    stringer.CloseObject();
-    return result;
+    const auto object = stringer.ObjectScope();
+    return AppendMembers(mediaAsset, *timePoints, stringer);
 }
 
 } // namespace Qiv::DataModel::MediaAssets::Serialization::Json

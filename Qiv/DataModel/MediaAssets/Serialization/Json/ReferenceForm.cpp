@@ -1,55 +1,39 @@
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/ReferenceForm.h>
 
-#include <Qiv/Common/Serialization/Json/KnownMembers.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/Details/ReadReference.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/Details/ReferenceMembers.h>
 
 namespace Qiv::DataModel::MediaAssets::Serialization::Json
 {
 
-using namespace Common::Serialization::Json;
-using BusinessEntityModel::BaseTypes::Identifier;
 using Common::Serialization::Result;
+
+void AppendReferenceMembers(Common::Serialization::Json::Stringer& stringer, const std::string& type,
+                            const BusinessEntityModel::BaseTypes::Identifier& id)
+{
+    using Common::Serialization::Json::Details::keyOf;
+    using Form = Details::AnyReferenceForm;
+
+    stringer.Member(keyOf<Form::type>, type.c_str());
+    stringer.Member(keyOf<Form::id>, id.Value().c_str());
+}
 
 Result BadReferenceFormat()
 {
-    return "Bad format";
+    return Details::AnyReferenceForm::badFormatMessage;
 }
 
-Result ReadReferenceForm(const JsonObject& json, std::string_view type, std::string_view embeddedProperty,
-                         ReferenceForm& form)
+Result ReadReferenceForm(const Common::Serialization::Json::JsonObject& json, std::string_view type,
+                         std::string_view embeddedProperty, ReferenceForm& form)
 {
-    ReferenceForm found;
-    const JsonObject* foundType = nullptr;
-    const auto size = VisitMembers(json,
-                                   [&](std::string_view name, const auto& member)
-                                   {
-                                       if (name == "_type")
-                                           foundType = &*member;
-                                       if (name == "id")
-                                           found.id = &*member;
-                                       if (name == embeddedProperty)
-                                           found.embedded = &*member;
-                                   });
-    if (IfText(foundType).value_or(type) != type)
-        return "Bad _type";
-
-    const bool hasIdAlone = size == 1 || (size == 2 && IfNotNull(foundType) != nullptr);
-    if (hasIdAlone && IfNotNull(found.id) != nullptr)
-    {
-        if (found.id->type() == ::Json::arrayValue || found.id->type() == ::Json::objectValue)
-            return BadReferenceFormat();
-        form = {found.id, nullptr};
-        return {};
-    }
-    if (IfType(found.embedded, ::Json::objectValue) == nullptr)
-        return BadReferenceFormat();
-    form = {nullptr, found.embedded};
+    Details::ReferenceParts parts;
+    if (auto result = Details::ReadReferenceParts(json, type, embeddedProperty, parts); !result)
+        return result;
+    if (parts.id)
+        form = {nullptr, Details::IdentifierOf(parts.id)};
+    else
+        form = {parts.embedded.Tree(), {}};
     return {};
-}
-
-Identifier IdentifierOf(const JsonObject& scalar)
-{
-    const auto text = IfText(&scalar);
-    return text ? Identifier(*text) : Identifier(scalar.asString());
 }
 
 } // namespace Qiv::DataModel::MediaAssets::Serialization::Json

@@ -3,6 +3,7 @@
 #include <Qiv/BusinessEntityModel/BaseTypes/SharedReference.h>
 #include <Qiv/Common/Serialization/Json/ToJsonConverter.h>
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/Export.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/ReferenceForm.h>
 
 #include <memory>
 #include <string>
@@ -41,17 +42,14 @@ public:
     using Base::To;
     Result To(const Reference& reference, Stringer& stringer) const override
     {
-        stringer.Object();
-        auto result = Append(reference, stringer);
-        stringer.CloseObject();
-        return result;
+        const auto object = stringer.ObjectScope();
+        return Append(reference, stringer);
     }
 
     /// Writes the members of the reference into an object that is already open.
     Result Append(const Reference& reference, Stringer& stringer) const
     {
-        stringer.Member("_type", typeProperty_.c_str());
-        stringer.Member("id", reference.Id().Value().c_str());
+        AppendReferenceMembers(stringer, typeProperty_, reference.Id());
         if (reference.Pointer() == nullptr || jsonConverter_ == nullptr)
             return {};
         stringer.Key(embeddedProperty_.c_str());

@@ -1,13 +1,22 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/DocumentKind.h>
 
-#include <Qiv/Common/Serialization/Json/KnownMembers.h>
+#include <Qiv/Common/Serialization/Json/Details/ValueView.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/BoundaryForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/SequenceOutputForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/SpeedForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/Details/NodeForm.h>
 
 #include <string_view>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::Json
 {
 
-using namespace Common::Serialization::Json;
+using namespace Serialization::MediaIOs::Json::Details;
+using Common::Serialization::Json::JsonObject;
+using Common::Serialization::Json::Details::keyOf;
+using Common::Serialization::Json::Details::ValueView;
+using Nodes::Json::Details::NodeForm;
 
 namespace
 {
@@ -19,20 +28,20 @@ struct Tag
 };
 
 constexpr Tag tags[] = {
-    {"MediaInput", DocumentKind::MediaInput},
-    {"MediaOutput", DocumentKind::MediaOutput},
-    {"Node", DocumentKind::Node},
-    {"SequenceOutput", DocumentKind::SequenceOutput},
-    {"Speed", DocumentKind::Speed},
-    {"BoundaryAbsolute", DocumentKind::Boundary},
-    {"BoundaryRelative", DocumentKind::Boundary},
+    {ChannelForm::recorderTag, DocumentKind::MediaInput},
+    {ChannelForm::playerTag, DocumentKind::MediaOutput},
+    {NodeForm::tag, DocumentKind::Node},
+    {SequenceOutputForm::tag, DocumentKind::SequenceOutput},
+    {SpeedForm::tag, DocumentKind::Speed},
+    {BoundaryForm::absoluteTag, DocumentKind::Boundary},
+    {BoundaryForm::relativeTag, DocumentKind::Boundary},
 };
 
 } // namespace
 
 std::optional<DocumentKind> KindOf(const JsonObject& document) noexcept
 {
-    const auto text = IfText(FindMember(document, "_type"));
+    const auto text = ValueView(document).Find(keyOf<ChannelForm::type>).Text();
     for (const auto& tag : tags)
         if (text == tag.text)
             return tag.kind;
@@ -44,7 +53,8 @@ std::string_view IdOf(const JsonObject& document) noexcept
     const auto kind = KindOf(document);
     const auto hasIdentifier =
         kind == DocumentKind::MediaInput || kind == DocumentKind::MediaOutput || kind == DocumentKind::Node;
-    return hasIdentifier ? IfText(FindMember(document, "id")).value_or(std::string_view()) : std::string_view();
+    return hasIdentifier ? ValueView(document).Find(keyOf<ChannelForm::id>).Text().value_or(std::string_view())
+                         : std::string_view();
 }
 
 std::string_view ToString(DocumentKind kind) noexcept

@@ -1,13 +1,25 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
 
-#include <Qiv/Common/Serialization/Json/KnownMembers.h>
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/JsonToTimePointConverter.h>
+#include <Qiv/BusinessEntityModel/Edits/Serialization/Json/Details/SequenceForm.h>
+#include <Qiv/Common/Serialization/Json/Details/DurationForm.h>
+#include <Qiv/Common/Serialization/Json/Details/TimePointForm.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/Details/MediaAssetForm.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/Details/ReadTimePoint.h>
 #include <Qiv/DataModel/MediaAssets/TimecodePrimary.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryOrigin.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/PlayingLoopMode.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/PlayingStatus.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/RecordingStatus.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Inspection.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/AssetBlockForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/BoundaryForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/MediaAssetReferenceForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/OperatorProfileForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/SequenceOutputForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/SequenceReferenceForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/SpeedForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/Details/NodeForm.h>
 #include <Qiv/TimePoints/QivDurationParser.h>
 #include <Qiv/TimePoints/QivTimeCodeParser.h>
 
@@ -20,10 +32,17 @@
 namespace Qiv::DataModel::Tarvonel::Serialization::Json
 {
 
-using namespace Common::Serialization::Json;
 using namespace Details;
+using namespace Serialization::MediaIOs::Json::Details;
+using BusinessEntityModel::Edits::Serialization::Json::Details::SequenceForm;
+using Common::Serialization::Json::JsonObject;
+using Common::Serialization::Json::Details::DurationForm;
+using Common::Serialization::Json::Details::keyOf;
+using Common::Serialization::Json::Details::TimePointForm;
 using MediaAssets::TimecodePrimary;
-using MediaAssets::Serialization::Json::JsonToTimePointConverter;
+using MediaAssets::Serialization::Json::Details::MediaAssetForm;
+using MediaAssets::Serialization::Json::Details::NanosecondsOf;
+using Nodes::Json::Details::NodeForm;
 using Tarvonel::MediaIOs::BoundaryOrigin;
 using Tarvonel::MediaIOs::PlayingLoopMode;
 using Tarvonel::MediaIOs::PlayingStatus;
@@ -32,26 +51,30 @@ using TimePoints::Duration;
 using TimePoints::QivDurationParser;
 using TimePoints::QivTimeCodeParser;
 using TimePoints::TimeCode;
-using TimePoints::TimePoint;
 
 namespace
 {
 
 // What the readers ask of values beyond their type. Where a reader has a function for it, that function is asked here.
 
-void ReportInvalid(Inspection& inspection, const JsonObject& value, std::string_view why)
+std::string_view TextOf(ValueView text) noexcept
+{
+    return text.Text().value_or(std::string_view());
+}
+
+void ReportInvalid(Inspection& inspection, ValueView value, std::string_view why)
 {
     inspection.Report(FindingKind::InvalidValue, value, Quote(TextOf(value)).append(" ").append(why));
 }
 
-void ReportFatal(Inspection& inspection, const JsonObject& value, std::string_view why, const char* exceptionText)
+void ReportFatal(Inspection& inspection, ValueView value, std::string_view why, const char* exceptionText)
 {
     inspection.Report(FindingKind::EndsProcess, value,
                       Quote(TextOf(value)).append(" ").append(why).append(", which ends the process"), exceptionText);
 }
 
 template <typename Enumeration, std::int32_t first = 0>
-void Enumerator(Inspection& inspection, const JsonObject& value)
+void Enumerator(Inspection& inspection, ValueView value)
 {
     const auto textsOfAll = []
     {
@@ -66,15 +89,15 @@ void Enumerator(Inspection& inspection, const JsonObject& value)
         ReportInvalid(inspection, value, "is none of " + textsOfAll() + "; it is read as " + ToString(enumerator));
 }
 
-void OriginOfRelative(Inspection& inspection, const JsonObject& value)
+void OriginOfRelative(Inspection& inspection, ValueView value)
 {
     if (TextOf(value) == ToString(BoundaryOrigin::Absolute))
-        ReportFatal(inspection, value, "is the origin of a relative boundary", "Bad origin for BoundaryRelative");
+        ReportFatal(inspection, value, "is the origin of a relative boundary", BoundaryForm::badOriginMessage);
     else
         Enumerator<BoundaryOrigin, 1>(inspection, value); // not advising Absolute, which comes first
 }
 
-void TimeCodeText(Inspection& inspection, const JsonObject& value)
+void TimeCodeText(Inspection& inspection, ValueView value)
 {
     TimeCode timeCode;
     if (QivTimeCodeParser::TryRead(TextOf(value), timeCode))
@@ -93,7 +116,7 @@ bool FitsSixtyFourBits(std::string_view digits)
     return std::from_chars(digits.data(), digits.data() + digits.size(), number).ec == std::errc();
 }
 
-void DurationText(Inspection& inspection, const JsonObject& value)
+void DurationText(Inspection& inspection, ValueView value)
 {
     Duration duration;
     if (!QivDurationParser::TryRead(TextOf(value), duration))
@@ -103,20 +126,17 @@ void DurationText(Inspection& inspection, const JsonObject& value)
                       "does not fit 64 bits; it is read as " + std::to_string(duration.Nanoseconds()) + " ns");
 }
 
-void TimePointText(Inspection& inspection, const JsonObject& value)
+void TimePointText(Inspection& inspection, ValueView value)
 {
-    JsonObject timePoint(::Json::objectValue);
-    timePoint["value"] = value;
-    TimePoint read;
-    if (const auto result = JsonToTimePointConverter().To(timePoint, read); !result)
+    if (!NanosecondsOf(value))
         inspection.ReportFailure(value, Quote(TextOf(value)).append(" is no whole decimal number of 64 bits"),
-                                 result.ErrorMessage());
+                                 TimePointForm::invalidValueMessage);
 }
 
 // As lenient and as harsh as `std::stoll`, which the reader uses.
-void TimePointOnAirText(Inspection& inspection, const JsonObject& value)
+void TimePointOnAirText(Inspection& inspection, ValueView value)
 {
-    if (!value.isString())
+    if (!value.IsText())
         return;
     const std::string text(TextOf(value));
     try
@@ -136,278 +156,275 @@ void TimePointOnAirText(Inspection& inspection, const JsonObject& value)
     }
 }
 
-void ServerIdentifier(Inspection& inspection, const JsonObject& value)
+void ServerIdentifier(Inspection& inspection, ValueView value)
 {
-    if (value.asInt() < 1 || value.asInt() % 10 != 0)
+    if (!OperatorProfileForm::IsServerId(value.Int32().value_or(0)))
         inspection.Report(FindingKind::InvalidValue, value,
                           "is no server identifier, a positive multiple of 10; it is skipped");
 }
 
-void Addresses(Inspection& inspection, const JsonObject& value)
+void Addresses(Inspection& inspection, ValueView value)
 {
-    for (::Json::ArrayIndex i = 0; i < value.size(); ++i)
-    {
-        if (value[i].isString())
-            continue;
-        const Inspection::Step step(inspection, std::to_string(i));
-        inspection.Report(FindingKind::WrongType, value[i], "is no string; the element is skipped");
-    }
+    value.VisitElements(
+        [&](std::size_t index, ValueView element)
+        {
+            if (element.IsText())
+                return;
+            const Inspection::Step step(inspection, std::to_string(index));
+            inspection.Report(FindingKind::WrongType, element, "is no string; the element is skipped");
+        });
 }
 
-void Reserved(Inspection& inspection, const JsonObject& value)
+void Reserved(Inspection& inspection, ValueView value)
 {
     inspection.Report(FindingKind::Ignored, value, "is reserved, and nothing is read from it");
 }
 
-template <const Shape& shape>
-void Nested(Inspection& inspection, const JsonObject& value)
+template <const ObjectShape& shape>
+void Nested(Inspection& inspection, ValueView value)
 {
     inspection.Inspect(value, shape);
 }
 
-// A reference to an entity, which may be embedded.
-struct Reference
+template <typename Form, const ObjectShape& target>
+void Refers(Inspection& inspection, ValueView value);
+void Metadata(Inspection& inspection, ValueView value);
+void Boundary(Inspection& inspection, ValueView value);
+
+// The rules of each object. Members stand in the order in which the readers take them: the first that fails ends the
+// reading.
+
+constexpr auto timePointRules =
+    RulesFor(TimePointForm::members,
+             {RuleOf(TimePointForm::value, TimePointText, FailsWith(TimePointForm::invalidValueMessage))});
+constexpr ObjectShape timePoint{TimePointForm::tag, {}, TimePointForm::emptyMessage, timePointRules};
+
+constexpr auto timePointOnAirRules =
+    RulesFor(TimePointForm::members, {RuleOf(TimePointForm::value, TimePointOnAirText, objectIsSkipped)});
+constexpr ObjectShape timePointOnAir{TimePointForm::tag, objectIsSkipped, nullptr, timePointOnAirRules};
+
+constexpr auto durationRules =
+    RulesFor(DurationForm::members, {RuleOf(DurationForm::value, DurationText, objectIsSkipped)});
+constexpr ObjectShape duration{DurationForm::tag, objectIsSkipped, nullptr, durationRules};
+
+constexpr auto speedRules = RulesFor(SpeedForm::members, {
+                                                             RuleOf(SpeedForm::numerator),
+                                                             RuleOf(SpeedForm::denominator),
+                                                         });
+constexpr ObjectShape speed{SpeedForm::tag, {}, SpeedForm::emptyMessage, speedRules};
+
+constexpr auto absoluteRules = RulesFor(BoundaryForm::absolute, {RuleOf(BoundaryForm::timepoint, Nested<timePoint>)});
+constexpr ObjectShape boundaryAbsolute{BoundaryForm::absoluteTag, FailsWith(BoundaryForm::invalidTypeMessage),
+                                       BoundaryForm::emptyMessage, absoluteRules};
+
+constexpr auto relativeRules = RulesFor(BoundaryForm::relative, {
+                                                                    RuleOf(BoundaryForm::origin, OriginOfRelative),
+                                                                    RuleOf(BoundaryForm::offset),
+                                                                });
+constexpr ObjectShape boundaryRelative{BoundaryForm::relativeTag, FailsWith(BoundaryForm::invalidTypeMessage),
+                                       BoundaryForm::emptyMessage, relativeRules};
+
+constexpr auto mediaAssetRules =
+    RulesFor(MediaAssetForm::members, {
+                                          RuleOf(MediaAssetForm::id),
+                                          RuleOf(MediaAssetForm::name),
+                                          RuleOf(MediaAssetForm::inPoint, Nested<timePoint>),
+                                          RuleOf(MediaAssetForm::outPoint, Nested<timePoint>),
+                                      });
+constexpr ObjectShape mediaAsset{MediaAssetForm::tag, {}, MediaAssetForm::emptyMessage, mediaAssetRules};
+
+constexpr auto sequenceRules = RulesFor(SequenceForm::members, {
+                                                                   RuleOf(SequenceForm::id),
+                                                                   RuleOf(SequenceForm::name),
+                                                               });
+constexpr ObjectShape sequence{SequenceForm::tag, {}, SequenceForm::emptyMessage, sequenceRules};
+
+constexpr auto assetBlockRules = RulesFor(
+    AssetBlockForm::members, {
+                                 RuleOf(AssetBlockForm::id),
+                                 RuleOf(AssetBlockForm::mediaAsset, Refers<MediaAssetReferenceForm, mediaAsset>),
+                             });
+constexpr ObjectShape assetBlock{AssetBlockForm::tag, {}, nullptr, assetBlockRules};
+
+constexpr auto sequenceOutputRules = RulesFor(
+    SequenceOutputForm::members, {
+                                     RuleOf(SequenceOutputForm::sequenceOnAir, Refers<SequenceReferenceForm, sequence>),
+                                     RuleOf(SequenceOutputForm::assetBlockOnAir, Nested<assetBlock>),
+                                     RuleOf(SequenceOutputForm::nextAssetBlockOnAir, Nested<assetBlock>),
+                                     RuleOf(SequenceOutputForm::editMode),
+                                 });
+constexpr ObjectShape sequenceOutput{
+    SequenceOutputForm::tag, {}, SequenceOutputForm::emptyMessage, sequenceOutputRules};
+
+constexpr auto operatorRules =
+    RulesFor(OperatorProfileForm::members, {
+                                               RuleOf(OperatorProfileForm::serverId, ServerIdentifier),
+                                               RuleOf(OperatorProfileForm::index),
+                                           });
+
+constexpr auto commonRules =
+    RulesFor(ChannelForm::common, {
+                                      RuleOf(ChannelForm::id),
+                                      RuleOf(ChannelForm::name),
+                                      RuleOf(ChannelForm::mediaAssetOnAir, Refers<MediaAssetReferenceForm, mediaAsset>),
+                                      RuleOf(ChannelForm::metadata, Metadata),
+                                  });
+constexpr ObjectRules common(commonRules);
+
+constexpr auto recorderRules = RulesFor(ChannelForm::Joined(ChannelForm::ofEitherKind, ChannelForm::recorder),
+                                        {
+                                            RuleOf(ChannelForm::recordingStatus, Enumerator<RecordingStatus>),
+                                            RuleOf(ChannelForm::lastTimePoint, Nested<timePoint>),
+                                            RuleOf(ChannelForm::lastTodTimecode, TimeCodeText),
+                                            RuleOf(ChannelForm::lastUserTimecode, TimeCodeText),
+                                            RuleOf(ChannelForm::primaryTimecodeType, Enumerator<TimecodePrimary>),
+                                            RuleOf(ChannelForm::remainingCapacity, Nested<duration>),
+                                            RuleOf(ChannelForm::totalCapacity, Nested<duration>),
+                                        });
+constexpr ObjectShape mediaInput{ChannelForm::recorderTag, {}, ChannelForm::emptyMessage, {recorderRules, &common}};
+
+constexpr auto playerRules = RulesFor(ChannelForm::Joined(ChannelForm::ofEitherKind, ChannelForm::player),
+                                      {
+                                          RuleOf(ChannelForm::playingStatus, Enumerator<PlayingStatus>),
+                                          RuleOf(ChannelForm::speedOnAir, Nested<speed>),
+                                          RuleOf(ChannelForm::globalLoopMode, Enumerator<PlayingLoopMode>),
+                                          RuleOf(ChannelForm::remainingTime, Nested<duration>),
+                                          RuleOf(ChannelForm::sequence, Nested<sequenceOutput>),
+                                          RuleOf(ChannelForm::currentTimePointOnAir, Nested<timePointOnAir>),
+                                          RuleOf(ChannelForm::todTimecodeOnAir, TimeCodeText),
+                                          RuleOf(ChannelForm::userTimecodeOnAir, TimeCodeText),
+                                          RuleOf(ChannelForm::primaryTimecodeType, Enumerator<TimecodePrimary>),
+                                          RuleOf(ChannelForm::inBoundary, Boundary),
+                                          RuleOf(ChannelForm::outBoundary, Boundary),
+                                          RuleOf(ChannelForm::locationOnAir, Reserved),
+                                      });
+constexpr ObjectShape mediaOutput{ChannelForm::playerTag, {}, ChannelForm::emptyMessage, {playerRules, &common}};
+
+constexpr auto nodeRules =
+    RulesFor(NodeForm::members, {
+                                    RuleOf(NodeForm::id, nullptr, FailsWith(NodeForm::withoutIdMessage)),
+                                    RuleOf(NodeForm::serialNumber),
+                                    RuleOf(NodeForm::hostName),
+                                    RuleOf(NodeForm::ipAddress),
+                                    RuleOf(NodeForm::gbeIpAddresses, Addresses),
+                                    RuleOf(NodeForm::chassis),
+                                    RuleOf(NodeForm::hardwareRevision),
+                                    RuleOf(NodeForm::tarvonelVersion),
+                                });
+constexpr ObjectShape node{NodeForm::tag, {}, NodeForm::emptyMessage, nodeRules};
+
+// The three objects that depend on more than one member at a time.
+
+void Boundary(Inspection& inspection, ValueView value)
 {
-    std::string_view tag;
-    std::string_view embedded;
-    const Shape& target;
-};
-
-template <const Reference& reference>
-void Refers(Inspection& inspection, const JsonObject& value);
-void Metadata(Inspection& inspection, const JsonObject& value);
-void Boundary(Inspection& inspection, const JsonObject& value);
-
-// The JSON forms. Members stand in the order in which the readers take them: the first that fails ends the reading.
-
-constexpr Member timePointMembers[] = {
-    {"value", Type::Nanoseconds, TimePointText, "Invalid TimePoint value"},
-};
-constexpr Shape timePoint{"TimePoint", nullptr, "TimePoint is empty", timePointMembers};
-
-constexpr Member timePointOnAirMembers[] = {
-    {"value", Type::Nanoseconds, TimePointOnAirText, objectIsSkipped},
-};
-constexpr Shape timePointOnAir{"TimePoint", objectIsSkipped, nullptr, timePointOnAirMembers};
-
-constexpr Member durationMembers[] = {
-    {"value", Type::Text, DurationText, objectIsSkipped},
-};
-constexpr Shape duration{"Duration", objectIsSkipped, nullptr, durationMembers};
-
-constexpr Member speedMembers[] = {
-    {"numerator", Type::Integer},
-    {"denominator", Type::Integer},
-};
-constexpr Shape speed{"Speed", nullptr, "Speed is empty", speedMembers};
-
-constexpr Member boundaryAbsoluteMembers[] = {
-    {"timepoint", Type::Any, Nested<timePoint>},
-};
-constexpr Shape boundaryAbsolute{"BoundaryAbsolute", "Invalid _type", "Boundary is empty", boundaryAbsoluteMembers};
-
-constexpr Member boundaryRelativeMembers[] = {
-    {"origin", Type::Text, OriginOfRelative},
-    {"offset", Type::Integer},
-};
-constexpr Shape boundaryRelative{"BoundaryRelative", "Invalid _type", "Boundary is empty", boundaryRelativeMembers};
-
-constexpr Member mediaAssetMembers[] = {
-    {"id", Type::Text},
-    {"name", Type::Text},
-    {"inPoint", Type::Object, Nested<timePoint>},
-    {"outPoint", Type::Object, Nested<timePoint>},
-};
-constexpr Shape mediaAsset{"MediaAsset", nullptr, "MediaAsset is empty", mediaAssetMembers};
-constexpr Reference mediaAssetReference{"MediaAssetRef", "mediaAsset", mediaAsset};
-
-constexpr Member sequenceMembers[] = {
-    {"id", Type::Text},
-    {"name", Type::Text},
-};
-constexpr Shape sequence{"Sequence", nullptr, "Sequence is empty", sequenceMembers};
-constexpr Reference sequenceReference{"SequenceRef", "sequence", sequence};
-
-constexpr Member assetBlockMembers[] = {
-    {"id", Type::Text},
-    {"mediaAsset", Type::Object, Refers<mediaAssetReference>},
-};
-constexpr Shape assetBlock{"AssetBlockOnAir", nullptr, nullptr, assetBlockMembers};
-
-constexpr Member sequenceOutputMembers[] = {
-    {"sequenceOnAir", Type::Object, Refers<sequenceReference>},
-    {"assetBlockOnAir", Type::Object, Nested<assetBlock>},
-    {"nextAssetBlockOnAir", Type::Object, Nested<assetBlock>},
-    {"editMode", Type::Boolean},
-};
-constexpr Shape sequenceOutput{"SequenceOutput", nullptr, "SequenceOutput is empty", sequenceOutputMembers};
-
-constexpr Member operatorMembers[] = {
-    {"qiv.peloperator.serverId", Type::Integer, ServerIdentifier},
-    {"qiv.peloperator.index", Type::Integer},
-};
-
-constexpr Member channelMembers[] = {
-    {"id", Type::Text},
-    {"name", Type::Text},
-    {"mediaAssetOnAir", Type::Object, Refers<mediaAssetReference>},
-    {"metadata", Type::Object, Metadata},
-};
-constexpr Members channel(channelMembers);
-
-constexpr Member mediaInputMembers[] = {
-    {"recordingStatus", Type::Text, Enumerator<RecordingStatus>},
-    {"lastTimePoint", Type::Any, Nested<timePoint>},
-    {"lastTodTimecode", Type::Text, TimeCodeText},
-    {"lastUserTimecode", Type::Text, TimeCodeText},
-    {"primaryTimecodeType", Type::Text, Enumerator<TimecodePrimary>},
-    {"remainingCapacity", Type::Object, Nested<duration>},
-    {"totalCapacity", Type::Object, Nested<duration>},
-};
-constexpr Shape mediaInput{"MediaInput", nullptr, "MediaIO is empty", {mediaInputMembers, &channel}};
-
-constexpr Member mediaOutputMembers[] = {
-    {"playingStatus", Type::Text, Enumerator<PlayingStatus>},
-    {"speedOnAir", Type::Object, Nested<speed>},
-    {"globalLoopMode", Type::Text, Enumerator<PlayingLoopMode>},
-    {"remainingTime", Type::Object, Nested<duration>},
-    {"sequence", Type::Object, Nested<sequenceOutput>},
-    {"currentTimePointOnAir", Type::Object, Nested<timePointOnAir>},
-    {"todTimecodeOnAir", Type::Text, TimeCodeText},
-    {"userTimecodeOnAir", Type::Text, TimeCodeText},
-    {"primaryTimecodeType", Type::Text, Enumerator<TimecodePrimary>},
-    {"inBoundary", Type::Object, Boundary},
-    {"outBoundary", Type::Object, Boundary},
-    {"locationOnAir", Type::Any, Reserved},
-};
-constexpr Shape mediaOutput{"MediaOutput", nullptr, "MediaIO is empty", {mediaOutputMembers, &channel}};
-
-constexpr Member nodeMembers[] = {
-    {"id", Type::Text, nullptr, "Node has no identifier (required)"},
-    {"serialNumber", Type::Integer},
-    {"hostName", Type::Text},
-    {"ipAddress", Type::Text},
-    {"gbeIpAddresses", Type::Array, Addresses},
-    {"chassis", Type::Text},
-    {"hardwareRevision", Type::Text},
-    {"tarvonelVersion", Type::Text},
-};
-constexpr Shape node{"Node", nullptr, "Node is null", nodeMembers};
-
-// The three forms that depend on more than one member at a time.
-
-void Boundary(Inspection& inspection, const JsonObject& value)
-{
-    const auto isRelative = IfText(FindMember(value, "_type")) == boundaryRelative.tag;
+    const auto isRelative = value.Find(keyOf<BoundaryForm::type>).Text() == boundaryRelative.tag;
     inspection.Inspect(value, isRelative ? boundaryRelative : boundaryAbsolute);
 }
 
-template <const Reference& reference>
-void Refers(Inspection& inspection, const JsonObject& value)
+template <typename Form, const ObjectShape& target>
+void Refers(Inspection& inspection, ValueView value)
 {
-    static constexpr Member members[] = {
-        {"id", Type::Any},
-        {reference.embedded, Type::Object, Nested<reference.target>},
-    };
+    static constexpr auto rules = RulesFor(Form::members, {
+                                                              RuleOf(Form::id),
+                                                              RuleOf(Form::embedded, Nested<target>),
+                                                          });
 
-    const auto* const tag = FindMember(value, "_type");
-    const auto* const id = FindMember(value, "id");
-    const auto* const embedded = FindMember(value, reference.embedded);
-    if (tag != nullptr && tag->isString() && TextOf(*tag) != reference.tag)
+    const auto tag = value.Find(keyOf<Form::type>);
+    const auto id = value.Find(keyOf<Form::id>);
+    const auto embedded = value.Find(keyOf<Form::embedded>);
+    if (tag.Text().value_or(Form::tag) != Form::tag)
     {
-        const Inspection::Step step(inspection, "_type");
-        inspection.ReportFailure(*tag, Quote(TextOf(*tag)).append(" is not ").append(Quote(reference.tag)),
-                                 "Bad _type");
+        const Inspection::Step step(inspection, keyOf<Form::type>);
+        inspection.ReportFailure(tag, Quote(TextOf(tag)).append(" is not ").append(Quote(Form::tag)),
+                                 Form::badTypeMessage);
         return;
     }
-    if (tag == nullptr || !tag->isString())
-        inspection.InspectMember(value, {"_type", Type::Text});
+    if (!tag.IsText())
+        inspection.InspectMember(value, RuleOf(Form::type));
 
     // The number of members tells the forms apart, those counted that no reader knows.
-    const auto isById = id != nullptr && (value.size() == 1 || (value.size() == 2 && tag != nullptr));
-    const auto isEmbedded = !isById && embedded != nullptr && embedded->isObject();
-    if (isById && (id->isArray() || id->isObject()))
-        inspection.ReportFailure(value, "has no text as \"id\"", "Bad format");
+    const auto isById = !id.IsNull() && (value.Size() == 1 || (value.Size() == 2 && !tag.IsNull()));
+    const auto isEmbedded = !isById && embedded.IsObject();
+    if (isById && (id.IsArray() || id.IsObject()))
+        inspection.ReportFailure(value, "has no text as " + Quote(keyOf<Form::id>), Form::badFormatMessage);
     else if (!isById && !isEmbedded)
         inspection.ReportFailure(value,
-                                 "has neither \"id\" with nothing but \"_type\" beside it nor an object as " +
-                                     Quote(reference.embedded),
-                                 "Bad format");
-    else if (isById && !id->isString())
+                                 "has neither " + Quote(keyOf<Form::id>) + " with nothing but " +
+                                     Quote(keyOf<Form::type>) + " beside it nor an object as " +
+                                     Quote(keyOf<Form::embedded>),
+                                 Form::badFormatMessage);
+    else if (isById && !id.IsText())
     {
-        const Inspection::Step step(inspection, "id");
-        inspection.Report(FindingKind::InvalidValue, *id, "is no string; its text is read, " + Quote(id->asString()));
+        const Inspection::Step step(inspection, keyOf<Form::id>);
+        inspection.Report(FindingKind::InvalidValue, id, "is no string; its text is read, " + Quote(id.ScalarText()));
     }
 
     if (isEmbedded)
     {
-        inspection.InspectMembers(value, members);
-        const auto* const embeddedId = FindMember(*embedded, "id");
-        if (id != nullptr && IfText(id) != IfText(embeddedId).value_or(std::string_view()))
+        inspection.InspectMembers(value, rules);
+        const auto embeddedId = embedded.Find(keyOf<Form::id>);
+        if (!id.IsNull() && id.Text() != TextOf(embeddedId))
         {
-            const Inspection::Step step(inspection, "id");
-            inspection.Report(FindingKind::Ignored, *id,
-                              "is ignored: the identifier is that of the object in " + Quote(reference.embedded));
+            const Inspection::Step step(inspection, keyOf<Form::id>);
+            inspection.Report(FindingKind::Ignored, id,
+                              "is ignored: the identifier is that of the object in " + Quote(keyOf<Form::embedded>));
         }
     }
-    inspection.ReportUnknown(value, members, reference.tag);
+    inspection.ReportUnknown(value, rules, Form::tag);
 }
 
-void Metadata(Inspection& inspection, const JsonObject& value)
+void Metadata(Inspection& inspection, ValueView value)
 {
-    constexpr std::string_view reserved = "qiv.peloperator";
-
-    inspection.InspectMembers(value, operatorMembers);
-    for (auto member = value.begin(); member != value.end(); ++member)
-    {
-        const auto name = NameOf(member);
-        if (std::any_of(std::begin(operatorMembers), std::end(operatorMembers),
-                        [name](const Member& known) { return known.key == name; }))
-            continue;
-        const Inspection::Step step(inspection, name);
-        const auto lastDot = name.rfind('.');
-        if (lastDot == std::string_view::npos)
-            inspection.Report(FindingKind::UnknownMember, *member,
-                              Quote(name).append(" has no dot and so belongs to no profile; it is skipped"));
-        else if (lastDot >= reserved.size() && name.substr(0, reserved.size()) == reserved)
-            inspection.Report(FindingKind::UnknownMember, *member,
-                              Quote(name).append(" is in the namespace of the operator profile; it is skipped"));
-        else if (!member->isString())
-            inspection.Report(FindingKind::WrongType, *member,
-                              "is no string, as all metadata but the operator's are; it is skipped");
-    }
+    inspection.InspectMembers(value, operatorRules);
+    value.VisitMembers(
+        [&](std::string_view name, ValueView member)
+        {
+            if (std::any_of(operatorRules.begin(), operatorRules.end(),
+                            [name](const MemberRule& rule) { return rule.key == name; }))
+                return;
+            const Inspection::Step step(inspection, name);
+            const auto lastDot = name.rfind('.');
+            if (lastDot == std::string_view::npos)
+                inspection.Report(FindingKind::UnknownMember, member,
+                                  Quote(name).append(" has no dot and so belongs to no profile; it is skipped"));
+            else if (OperatorProfileForm::Reserves(name.substr(0, lastDot)))
+                inspection.Report(FindingKind::UnknownMember, member,
+                                  Quote(name).append(" is in the namespace of the operator profile; it is skipped"));
+            else if (!member.IsText())
+                inspection.Report(FindingKind::WrongType, member,
+                                  "is no string, as all metadata but the operator's are; it is skipped");
+        });
 }
 
-void ReportChannelTag(Inspection& inspection, const JsonObject& value, const Shape& shape, const Shape& otherKind)
+void ReportChannelTag(Inspection& inspection, ValueView value, bool namesKind, const ObjectShape& shape,
+                      const ObjectShape& otherKind)
 {
-    const auto* const tag = FindMember(value, "_type");
-    const auto text = IfText(tag);
-    if (tag == nullptr)
-        return inspection.ReportFailure(value, "has no \"_type\"", "Invalid JSON type (undefined)");
-    const Inspection::Step step(inspection, "_type");
+    const auto tag = value.Find(keyOf<ChannelForm::type>);
+    if (tag.IsNull())
+        return inspection.ReportFailure(value, "has no " + Quote(keyOf<ChannelForm::type>),
+                                        ChannelForm::undefinedTypeMessage);
+    const Inspection::Step step(inspection, keyOf<ChannelForm::type>);
+    const auto text = tag.Text();
     if (!text)
-        return inspection.ReportFailure(*tag, "is no string", "Invalid JSON type (undefined)");
-    if (*text == otherKind.tag)
-        inspection.ReportFailure(*tag, Quote(*text).append(" is not ").append(Quote(shape.tag)),
-                                 std::string("Inconsistent types - cannot merge JSON-")
-                                     .append(otherKind.tag)
-                                     .append(" source with ")
-                                     .append(shape.tag)
-                                     .append(" destination."));
+        inspection.ReportFailure(tag, "is no string", ChannelForm::undefinedTypeMessage);
+    else if (*text == otherKind.tag)
+        inspection.ReportFailure(tag, Quote(*text).append(" is not ").append(Quote(shape.tag)),
+                                 ChannelForm::InconsistentTypes(otherKind.tag, shape.tag));
     else
         inspection.ReportFailure(
-            *tag, Quote(*text).append(KindOf(value) ? " is no kind of channel" : " names no kind of document"),
-            std::string("Invalid JSON type ('").append(*text).append("') : 'MediaInput' or 'MediaOutput' expected"));
+            tag, Quote(*text).append(namesKind ? " is no kind of channel" : " names no kind of document"),
+            ChannelForm::UnknownType(*text));
 }
 
 // A channel, or a document of no known kind, as JsonToMediaIOConverter reads it into a channel of that kind.
-void Channel(Inspection& inspection, const JsonObject& value, const Shape& shape, const Shape& otherKind)
+void Channel(Inspection& inspection, const JsonObject& document, const ObjectShape& shape, const ObjectShape& otherKind)
 {
-    if (IsEmptyObject(value) || IfText(FindMember(value, "_type")) == shape.tag)
+    const ValueView value(document);
+    if (value.IsEmptyObject() || value.Find(keyOf<ChannelForm::type>).Text() == shape.tag)
         return inspection.Inspect(value, shape);
-    ReportChannelTag(inspection, value, shape, otherKind);
+    ReportChannelTag(inspection, value, KindOf(document).has_value(), shape, otherKind);
     // The reader of players takes a document without "_type" too, and only its members can end the process.
-    inspection.InspectForFatal(value, mediaOutput.members);
+    inspection.InspectForFatal(value, mediaOutput.rules);
 }
 
 const Finding* FirstOf(const std::vector<Finding>& findings, FindingKind kind) noexcept

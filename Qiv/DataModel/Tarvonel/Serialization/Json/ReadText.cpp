@@ -1,7 +1,7 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
 
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/ReadWhole.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
 
 #include <json/reader.h>
 
@@ -15,38 +15,10 @@
 namespace Qiv::DataModel::Tarvonel::Serialization::Json
 {
 
-using Common::Serialization::Result;
 using Common::Serialization::Json::JsonObject;
-using Tarvonel::MediaIOs::Boundary;
-using Tarvonel::MediaIOs::MediaIO;
-using Tarvonel::MediaIOs::SequenceOutput;
-using Tarvonel::MediaIOs::Speed;
-using Tarvonel::Nodes::Node;
 
 namespace
 {
-
-// The kind that an entity is read as.
-DocumentKind KindOf(const MediaIO& channel)
-{
-    return channel.GetMode() == MediaIO::Mode::Input ? DocumentKind::MediaInput : DocumentKind::MediaOutput;
-}
-DocumentKind KindOf(const SequenceOutput&)
-{
-    return DocumentKind::SequenceOutput;
-}
-DocumentKind KindOf(const Speed&)
-{
-    return DocumentKind::Speed;
-}
-DocumentKind KindOf(const Node&)
-{
-    return DocumentKind::Node;
-}
-DocumentKind KindOf(const std::unique_ptr<Boundary>&)
-{
-    return DocumentKind::Boundary;
-}
 
 // Whether any document that is read as this kind can. An inspection takes more than twice as long as the reading.
 bool CanEndTheProcess(DocumentKind kind)
@@ -137,21 +109,20 @@ TextResult FailureAt(std::string_view text, const Finding& finding, std::string 
     return {std::move(message), PositionOf(text, finding.offset), finding.pointer};
 }
 
-template <typename Entity>
-TextResult Read(std::string_view text, Entity& entity, Result (*read)(const JsonObject&, Entity&))
+TextResult Read(std::string_view text, const ReadTarget& target, Details::ReadMode mode)
 {
     JsonObject json;
     if (auto result = ParseText(text, json); !result)
         return result;
 
-    const auto kind = KindOf(entity);
+    const auto kind = Details::KindOf(target);
     if (CanEndTheProcess(kind))
     {
         const auto findings = InspectDocument(json, kind);
         if (const auto* const fatal = FirstFatal(findings))
             return FailureAt(text, *fatal, fatal->sentence);
     }
-    const auto result = read(json, entity);
+    const auto result = Details::ReadWhole(json, target, mode);
     if (result)
         return {};
     const auto findings = InspectDocument(json, kind);
@@ -188,54 +159,14 @@ TextResult ParseText(std::string_view text, JsonObject& json)
     return {};
 }
 
-TextResult MergeText(std::string_view text, MediaIO& channel)
+TextResult MergeText(std::string_view text, ReadTarget target)
 {
-    return Read<MediaIO>(text, channel, MergeWhole);
+    return Read(text, target, Details::ReadMode::Merge);
 }
 
-TextResult MergeText(std::string_view text, SequenceOutput& sequenceOutput)
+TextResult ReadSnapshotText(std::string_view text, ReadTarget target)
 {
-    return Read<SequenceOutput>(text, sequenceOutput, MergeWhole);
-}
-
-TextResult MergeText(std::string_view text, Speed& speed)
-{
-    return Read<Speed>(text, speed, MergeWhole);
-}
-
-TextResult MergeText(std::string_view text, Node& node)
-{
-    return Read<Node>(text, node, MergeWhole);
-}
-
-TextResult MergeText(std::string_view text, std::unique_ptr<Boundary>& boundary)
-{
-    return Read<std::unique_ptr<Boundary>>(text, boundary, MergeWhole);
-}
-
-TextResult ReadSnapshotText(std::string_view text, MediaIO& channel)
-{
-    return Read<MediaIO>(text, channel, ReadSnapshot);
-}
-
-TextResult ReadSnapshotText(std::string_view text, SequenceOutput& sequenceOutput)
-{
-    return Read<SequenceOutput>(text, sequenceOutput, ReadSnapshot);
-}
-
-TextResult ReadSnapshotText(std::string_view text, Speed& speed)
-{
-    return Read<Speed>(text, speed, ReadSnapshot);
-}
-
-TextResult ReadSnapshotText(std::string_view text, Node& node)
-{
-    return Read<Node>(text, node, ReadSnapshot);
-}
-
-TextResult ReadSnapshotText(std::string_view text, std::unique_ptr<Boundary>& boundary)
-{
-    return Read<std::unique_ptr<Boundary>>(text, boundary, ReadSnapshot);
+    return Read(text, target, Details::ReadMode::Snapshot);
 }
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json

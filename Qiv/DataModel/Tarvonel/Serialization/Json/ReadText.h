@@ -1,15 +1,10 @@
 #pragma once
 
 #include <Qiv/Common/Serialization/Json/JsonObject.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/Boundary.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaIO.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/SequenceOutput.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/Speed.h>
-#include <Qiv/DataModel/Tarvonel/Nodes/Node.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Export.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadTarget.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/TextResult.h>
 
-#include <memory>
 #include <string_view>
 
 /// For callers who have text: parsed strictly, refused when it would end the process, and read whole or not at all.
@@ -37,26 +32,9 @@ QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ParseText(std::string_vie
                                                                  Common::Serialization::Json::JsonObject& json);
 
 /// Parses a document and merges it into the entity: see `MergeWhole`.
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult MergeText(std::string_view text,
-                                                                 Tarvonel::MediaIOs::MediaIO& channel);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult MergeText(std::string_view text,
-                                                                 Tarvonel::MediaIOs::SequenceOutput& sequenceOutput);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult MergeText(std::string_view text,
-                                                                 Tarvonel::MediaIOs::Speed& speed);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult MergeText(std::string_view text, Tarvonel::Nodes::Node& node);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult
-MergeText(std::string_view text, std::unique_ptr<Tarvonel::MediaIOs::Boundary>& boundary);
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult MergeText(std::string_view text, ReadTarget target);
 
 /// Parses a document and replaces the entity by it: see `ReadSnapshot`.
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ReadSnapshotText(std::string_view text,
-                                                                        Tarvonel::MediaIOs::MediaIO& channel);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult
-ReadSnapshotText(std::string_view text, Tarvonel::MediaIOs::SequenceOutput& sequenceOutput);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ReadSnapshotText(std::string_view text,
-                                                                        Tarvonel::MediaIOs::Speed& speed);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ReadSnapshotText(std::string_view text,
-                                                                        Tarvonel::Nodes::Node& node);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult
-ReadSnapshotText(std::string_view text, std::unique_ptr<Tarvonel::MediaIOs::Boundary>& boundary);
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ReadSnapshotText(std::string_view text, ReadTarget target);
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json

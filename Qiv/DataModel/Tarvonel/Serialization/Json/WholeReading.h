@@ -4,10 +4,8 @@
 #include <Qiv/Common/Serialization/Json/FromJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/Boundary.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/MediaIO.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/SequenceOutput.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/Speed.h>
-#include <Qiv/DataModel/Tarvonel/Nodes/Node.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Export.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadTarget.h>
 
 #include <memory>
 #include <type_traits>
@@ -54,6 +52,17 @@ Entity IndependentCopy(const Entity& entity)
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT std::unique_ptr<Tarvonel::MediaIOs::MediaIO>
 IndependentCopy(const Tarvonel::MediaIOs::MediaIO& channel);
 
+/// A default-constructed entity. A channel keeps its identifier: a snapshot that has none tells the state of a channel,
+/// not that it has become another.
+template <typename Entity>
+Entity NewEntity(const Entity& entity)
+{
+    Entity created{};
+    if constexpr (std::is_base_of_v<Tarvonel::MediaIOs::MediaIO, Entity>)
+        created.Id(entity.Id());
+    return created;
+}
+
 /// Whole reading with any reader, of any entity that can be copied.
 template <typename Entity>
 Common::Serialization::Result MergeWhole(const Common::Serialization::Json::FromJsonConverter<Entity>& reader,
@@ -66,15 +75,12 @@ Common::Serialization::Result MergeWhole(const Common::Serialization::Json::From
     return result;
 }
 
-/// Whole reading into a default-constructed entity, which then replaces `entity`. A channel keeps its identifier when
-/// the document does not have one: a snapshot tells the state of a channel, not that it has become another.
+/// Whole reading into a new entity, which then replaces `entity`; see NewEntity.
 template <typename Entity>
 Common::Serialization::Result ReadSnapshot(const Common::Serialization::Json::FromJsonConverter<Entity>& reader,
                                            const Common::Serialization::Json::JsonObject& json, Entity& entity)
 {
-    Entity snapshot{};
-    if constexpr (std::is_base_of_v<Tarvonel::MediaIOs::MediaIO, Entity>)
-        snapshot.Id(entity.Id());
+    auto snapshot = NewEntity(entity);
     auto result = reader.To(json, snapshot);
     if (result)
         entity = std::move(snapshot);
@@ -83,30 +89,11 @@ Common::Serialization::Result ReadSnapshot(const Common::Serialization::Json::Fr
 
 /// The same with the reader of each entity. Channels are read by `JsonToMediaIOConverter`, for which "_type" is
 /// required and names the kind that the channel has. Of a channel of a class derived from `MediaInput` or
-/// `MediaOutput`, the members that such a class adds stay as they are.
+/// `MediaOutput`, the members that such a class adds stay as they are. Nodes and boundaries are replaced by every
+/// reading; merging and reading a snapshot are the same for them.
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
-MergeWhole(const Common::Serialization::Json::JsonObject& json, Tarvonel::MediaIOs::MediaIO& channel);
+MergeWhole(const Common::Serialization::Json::JsonObject& json, ReadTarget target);
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
-MergeWhole(const Common::Serialization::Json::JsonObject& json, Tarvonel::MediaIOs::SequenceOutput& sequenceOutput);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
-MergeWhole(const Common::Serialization::Json::JsonObject& json, Tarvonel::MediaIOs::Speed& speed);
-/// Nodes and boundaries are replaced by every reading; merging and reading a snapshot are the same.
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
-MergeWhole(const Common::Serialization::Json::JsonObject& json, Tarvonel::Nodes::Node& node);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
-MergeWhole(const Common::Serialization::Json::JsonObject& json,
-           std::unique_ptr<Tarvonel::MediaIOs::Boundary>& boundary);
-
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
-ReadSnapshot(const Common::Serialization::Json::JsonObject& json, Tarvonel::MediaIOs::MediaIO& channel);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
-ReadSnapshot(const Common::Serialization::Json::JsonObject& json, Tarvonel::MediaIOs::SequenceOutput& sequenceOutput);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
-ReadSnapshot(const Common::Serialization::Json::JsonObject& json, Tarvonel::MediaIOs::Speed& speed);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
-ReadSnapshot(const Common::Serialization::Json::JsonObject& json, Tarvonel::Nodes::Node& node);
-QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
-ReadSnapshot(const Common::Serialization::Json::JsonObject& json,
-             std::unique_ptr<Tarvonel::MediaIOs::Boundary>& boundary);
+ReadSnapshot(const Common::Serialization::Json::JsonObject& json, ReadTarget target);
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json

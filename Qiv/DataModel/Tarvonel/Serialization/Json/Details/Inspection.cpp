@@ -1,6 +1,6 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Inspection.h>
 
-#include <Qiv/Common/Serialization/Json/KnownMembers.h>
+#include <Qiv/Common/Serialization/Json/Details/KnownMembers.h>
 #include <Qiv/Common/Serialization/Json/Stringer.h>
 
 #include <algorithm>
@@ -8,82 +8,78 @@
 namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
 {
 
-using namespace Common::Serialization::Json;
+using Common::Serialization::Json::Stringer;
+using Common::Serialization::Json::Details::InvalidType;
+using Common::Serialization::Json::Details::typeKey;
 
 namespace
 {
 
-bool IsOfType(const JsonObject& value, Type type) noexcept
+bool IsOfType(ValueView value, JsonType type) noexcept
 {
     switch (type)
     {
-    case Type::Text:
-        return value.isString();
-    case Type::Integer:
-        return value.isInt();
-    case Type::Boolean:
-        return value.isBool();
-    case Type::Array:
-        return value.isArray();
-    case Type::Object:
-        return value.isObject();
-    case Type::Nanoseconds:
-        return value.isString() || value.isInt64();
-    case Type::Any:
+    case JsonType::Text:
+        return value.IsText();
+    case JsonType::Integer:
+        return value.Int32().has_value();
+    case JsonType::Boolean:
+        return value.Boolean().has_value();
+    case JsonType::Array:
+        return value.IsArray();
+    case JsonType::Object:
+        return value.IsObject();
+    case JsonType::Nanoseconds:
+        return value.IsText() || value.Int64();
+    case JsonType::Any:
         break;
     }
-    return !value.isNull();
+    return !value.IsNull();
 }
 
-std::string_view NameOf(Type type) noexcept
+std::string_view NameOf(JsonType type) noexcept
 {
     switch (type)
     {
-    case Type::Text:
+    case JsonType::Text:
         return "a string";
-    case Type::Integer:
+    case JsonType::Integer:
         return "an integer of 32 bits";
-    case Type::Boolean:
+    case JsonType::Boolean:
         return "true or false";
-    case Type::Array:
+    case JsonType::Array:
         return "an array";
-    case Type::Object:
+    case JsonType::Object:
         return "an object";
-    case Type::Nanoseconds:
+    case JsonType::Nanoseconds:
         return "a string or an integer of 64 bits";
-    case Type::Any:
+    case JsonType::Any:
         break;
     }
     return "a value";
 }
 
-std::string_view TypeNameOf(const JsonObject& value) noexcept
+std::string_view TypeNameOf(ValueView value) noexcept
 {
-    switch (value.type())
-    {
-    case ::Json::nullValue:
+    if (value.IsNull())
         return "null";
-    case ::Json::intValue:
-    case ::Json::uintValue:
-        return value.isInt64() ? value.isInt() ? "an integer of 32 bits" : "an integer of 64 bits" : "a number";
-    case ::Json::realValue:
-        return "a number";
-    case ::Json::stringValue:
+    if (value.IsText())
         return "a string";
-    case ::Json::booleanValue:
+    if (value.Boolean())
         return "a boolean";
-    case ::Json::arrayValue:
+    if (value.IsArray())
         return "an array";
-    case ::Json::objectValue:
-        break;
-    }
-    return "an object";
+    if (value.IsObject())
+        return "an object";
+    if (!value.IsInteger() || !value.Int64())
+        return "a number";
+    return value.Int32() ? "an integer of 32 bits" : "an integer of 64 bits";
 }
 
-bool Has(const Members& members, std::string_view key)
+bool HasRule(const ObjectRules& rules, std::string_view key)
 {
-    return std::any_of(members.begin(), members.end(), [key](const Member& member) { return member.key == key; }) ||
-           (members.base != nullptr && Has(*members.base, key));
+    return std::any_of(rules.begin(), rules.end(), [key](const MemberRule& rule) { return rule.key == key; }) ||
+           (rules.base != nullptr && HasRule(*rules.base, key));
 }
 
 } // namespace
@@ -104,135 +100,131 @@ Inspection::Step::Step(Inspection& inspection, std::string_view key)
     }
 }
 
-void Inspection::Report(FindingKind kind, const JsonObject& value, std::string sentence, std::string readerMessage)
+void Inspection::Report(FindingKind kind, ValueView value, std::string sentence, std::string readerMessage)
 {
-    findings_.push_back({pointer_, kind, std::move(sentence), std::move(readerMessage), value.getOffsetStart()});
+    findings_.push_back({pointer_, kind, std::move(sentence), std::move(readerMessage), value.Offset()});
 }
 
-void Inspection::ReportFailure(const JsonObject& value, std::string_view why, std::string readerMessage)
+void Inspection::ReportFailure(ValueView value, std::string_view why, std::string readerMessage)
 {
     auto sentence = std::string(why).append(", so the reader fails with ").append(Quote(readerMessage, 200));
     Report(FindingKind::Failure, value, std::move(sentence), std::move(readerMessage));
 }
 
-void Inspection::ReportMissing(const JsonObject& object, std::string_view key, const char* without)
+void Inspection::ReportMissing(ValueView object, std::string_view key, const Otherwise& otherwise)
 {
     auto sentence = Quote(key).append(" is required and absent");
-    if (without != objectIsSkipped)
-        ReportFailure(object, sentence, without);
+    if (otherwise.kind == Otherwise::ReaderFails)
+        ReportFailure(object, sentence, otherwise.message);
     else
         Report(FindingKind::MissingMember, object, sentence.append("; the object is skipped"));
 }
 
-void Inspection::ReportWrongType(const JsonObject& object, const JsonObject& value, const Member& member)
+void Inspection::ReportWrongType(ValueView object, ValueView value, const MemberRule& rule)
 {
     auto sentence =
-        std::string("is ").append(TypeNameOf(value)).append(", where ").append(NameOf(member.type)).append(" belongs");
-    if (member.without == nullptr)
-        Report(FindingKind::WrongType, value, sentence.append("; it is skipped"));
-    else if (member.without == objectIsSkipped)
-        Report(FindingKind::WrongType, value, sentence.append("; the object around it is skipped"));
-    else
-        ReportFailure(value.isNull() ? object : value, sentence, member.without);
+        std::string("is ").append(TypeNameOf(value)).append(", where ").append(NameOf(rule.type)).append(" belongs");
+    switch (rule.otherwise.kind)
+    {
+    case Otherwise::MemberIsSkipped:
+        return Report(FindingKind::WrongType, value, sentence.append("; it is skipped"));
+    case Otherwise::ObjectIsSkipped:
+        return Report(FindingKind::WrongType, value, sentence.append("; the object around it is skipped"));
+    case Otherwise::ReaderFails:
+        return ReportFailure(value.IsNull() ? object : value, sentence, rule.otherwise.message);
+    }
 }
 
-bool Inspection::HasTag(const JsonObject& object, const Shape& shape)
+bool Inspection::HasTag(ValueView object, const ObjectShape& shape)
 {
-    const auto* const tag = FindRaw(object, "_type");
-    if (tag == nullptr)
+    const bool isOptional = shape.withoutTag.kind == Otherwise::MemberIsSkipped;
+    const auto tag = object.Find(typeKey);
+    if (!tag)
     {
-        if (shape.withoutTag == nullptr)
-            return true;
-        ReportMissing(object, "_type", shape.withoutTag);
-        return false;
+        if (!isOptional)
+            ReportMissing(object, typeKey, shape.withoutTag);
+        return isOptional;
     }
-    const Step step(*this, "_type");
-    if (!tag->isString())
+    const Step step(*this, typeKey);
+    const auto text = tag.Text();
+    if (!text)
     {
-        ReportWrongType(object, *tag, {"_type", Type::Text, nullptr, shape.withoutTag});
-        return shape.withoutTag == nullptr;
+        ReportWrongType(object, tag, {typeKey, JsonType::Text, nullptr, shape.withoutTag});
+        return isOptional;
     }
-    if (TextOf(*tag) == shape.tag)
+    if (*text == shape.tag)
         return true;
-    auto sentence = Quote(TextOf(*tag)).append(" is not ").append(Quote(shape.tag));
-    if (shape.withoutTag == objectIsSkipped)
-        Report(FindingKind::InvalidValue, *tag, sentence.append("; the object around it is skipped"));
+    auto sentence = Quote(*text).append(" is not ").append(Quote(shape.tag));
+    if (shape.withoutTag.kind == Otherwise::ObjectIsSkipped)
+        Report(FindingKind::InvalidValue, tag, sentence.append("; the object around it is skipped"));
     else
-        ReportFailure(*tag, sentence,
-                      shape.withoutTag != nullptr ? shape.withoutTag
-                                                  : CheckType(IfText(tag), shape.tag).ErrorMessage());
+        ReportFailure(tag, sentence,
+                      isOptional ? InvalidType(*text, shape.tag).ErrorMessage() : shape.withoutTag.message);
     return false;
 }
 
-void Inspection::Inspect(const JsonObject& value, const Shape& shape)
+void Inspection::Inspect(ValueView value, const ObjectShape& shape)
 {
-    if (shape.empty != nullptr && IsEmptyObject(value))
+    if (shape.emptyMessage != nullptr && value.IsEmptyObject())
     {
         ReportFailure(value,
-                      value.isNull()     ? "is null"
-                      : value.isObject() ? "is an object without members"
+                      value.IsNull()     ? "is null"
+                      : value.IsObject() ? "is an object without members"
                                          : "is no object",
-                      shape.empty);
+                      shape.emptyMessage);
         return;
     }
     // The reader takes nothing from an object whose tag it refuses.
     if (!HasTag(value, shape))
         return;
-    InspectMembers(value, shape.members);
-    ReportUnknown(value, shape.members, shape.tag);
+    InspectMembers(value, shape.rules);
+    ReportUnknown(value, shape.rules, shape.tag);
 }
 
-void Inspection::InspectMembers(const JsonObject& object, const Members& members)
+void Inspection::InspectMembers(ValueView object, const ObjectRules& rules)
 {
-    if (members.base != nullptr)
-        InspectMembers(object, *members.base);
-    for (const auto& member : members)
-        InspectMember(object, member);
+    if (rules.base != nullptr)
+        InspectMembers(object, *rules.base);
+    for (const auto& rule : rules)
+        InspectMember(object, rule);
 }
 
-void Inspection::InspectForFatal(const JsonObject& object, const Members& members)
+void Inspection::InspectForFatal(ValueView object, const ObjectRules& rules)
 {
     const auto before = static_cast<std::ptrdiff_t>(findings_.size());
-    InspectMembers(object, members);
+    InspectMembers(object, rules);
     findings_.erase(std::remove_if(findings_.begin() + before, findings_.end(),
                                    [](const Finding& finding) { return finding.kind != FindingKind::EndsProcess; }),
                     findings_.end());
 }
 
-void Inspection::InspectMember(const JsonObject& object, const Member& member)
+void Inspection::InspectMember(ValueView object, const MemberRule& rule)
 {
-    const auto* const value = FindRaw(object, member.key);
-    if (value == nullptr)
+    const auto value = object.Find(rule.key);
+    if (!value)
     {
-        if (member.without != nullptr)
-            ReportMissing(object, member.key, member.without);
+        if (rule.otherwise.kind != Otherwise::MemberIsSkipped)
+            ReportMissing(object, rule.key, rule.otherwise);
         return;
     }
-    const Step step(*this, member.key);
-    if (!IsOfType(*value, member.type))
-        ReportWrongType(object, *value, member);
-    else if (member.check != nullptr)
-        member.check(*this, *value);
+    const Step step(*this, rule.key);
+    if (!IsOfType(value, rule.type))
+        ReportWrongType(object, value, rule);
+    else if (rule.check != nullptr)
+        rule.check(*this, value);
 }
 
-void Inspection::ReportUnknown(const JsonObject& object, const Members& members, std::string_view tag)
+void Inspection::ReportUnknown(ValueView object, const ObjectRules& rules, std::string_view tag)
 {
-    for (auto member = object.begin(); member != object.end(); ++member)
-    {
-        const auto name = Details::NameOf(member);
-        if (name == "_type" || Has(members, name))
-            continue;
-        const Step step(*this, name);
-        Report(FindingKind::UnknownMember, *member,
-               Quote(name).append(" is no member of ").append(tag).append("; it is skipped"));
-    }
-}
-
-std::string_view NameOf(const JsonObject::const_iterator& member)
-{
-    const char* end = nullptr;
-    const char* const begin = member.memberName(&end);
-    return {begin, static_cast<std::size_t>(end - begin)};
+    object.VisitMembers(
+        [&](std::string_view name, ValueView member)
+        {
+            if (name == typeKey || HasRule(rules, name))
+                return;
+            const Step step(*this, name);
+            Report(FindingKind::UnknownMember, member,
+                   Quote(name).append(" is no member of ").append(tag).append("; it is skipped"));
+        });
 }
 
 std::string Quote(std::string_view text, std::size_t longest)

@@ -1,76 +1,113 @@
 #pragma once
 
-#include <Qiv/Common/Serialization/Json/JsonObject.h>
+#include <Qiv/Common/Serialization/Json/Details/JsonForm.h>
+#include <Qiv/Common/Serialization/Json/Details/ValueView.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Finding.h>
 
+#include <array>
 #include <cstddef>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-/// How tables describe the JSON form of entities, and the walk over a document that compares it with them.
+/// The walk over a document that compares it with what its reader takes, and the rules by which it does. There is a
+/// rule for each member of a form, in the order in which the reader takes them.
 namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
 {
 
-using Common::Serialization::Json::JsonObject;
+using Common::Serialization::Json::Details::FormMember;
+using Common::Serialization::Json::Details::FormMembers;
+using Common::Serialization::Json::Details::JsonType;
+using Common::Serialization::Json::Details::ListedKey;
+using Common::Serialization::Json::Details::ValueView;
 
 class Inspection;
 
-/// What the reader asks a member to be; anything else is skipped.
-enum class Type
+/// What becomes of an object whose member is absent or not what the reader asks for.
+struct Otherwise
 {
-    Text,
-    Integer,
-    Boolean,
-    Array,
-    Object,
-    Nanoseconds, ///< a text or an integer of 64 bits
-    Any,         ///< anything but null
+    enum Kind
+    {
+        MemberIsSkipped,
+        ObjectIsSkipped,
+        ReaderFails
+    };
+    Kind kind = MemberIsSkipped;
+    const char* message = nullptr; ///< with which the reader fails
 };
+inline constexpr Otherwise objectIsSkipped{Otherwise::ObjectIsSkipped, nullptr};
+constexpr Otherwise FailsWith(const char* message)
+{
+    return {Otherwise::ReaderFails, message};
+}
 
-/// One member of an object, in a table that lists them in the order in which the reader takes them.
-struct Member
+/// Inspects a value that is of the type which its member has.
+using Check = void (*)(Inspection&, ValueView);
+
+/// What a reader asks of one member.
+struct MemberRule
 {
     std::string_view key;
-    Type type;
-    /// Inspects the value when it is of the type; null when the reader asks nothing else.
-    void (*check)(Inspection&, const JsonObject&) = nullptr;
-    /// What becomes of an object without a usable member of this key: null for nothing, `objectIsSkipped`, or the text
-    /// with which the reader fails.
-    const char* without = nullptr;
+    JsonType type;
+    Check check; ///< null when the type is all that it asks for
+    Otherwise otherwise;
 };
 
-/// Told from other texts by its address.
-inline constexpr char objectIsSkipped[] = "";
-
-/// The members that an entity adds to those of its base.
-struct Members
+template <typename TForm>
+constexpr MemberRule RuleOf(const FormMember<TForm>& member, Check check = nullptr, Otherwise otherwise = {})
 {
-    template <std::size_t size>
-    constexpr Members(const Member (&members)[size], const Members* theBase = nullptr)
-        : first(members), count(size), base(theBase)
+    return {ListedKey(member), member.type, check, otherwise};
+}
+
+/// The rules of some members of a form. Fails to compile when one of them has no rule; "_type" has none.
+template <typename TForm, std::size_t memberCount, std::size_t count>
+constexpr std::array<MemberRule, count> RulesFor(const FormMembers<TForm, memberCount>& members,
+                                                 const MemberRule (&rules)[count])
+{
+    for (const auto* const member : members)
+    {
+        bool hasRule = member == &TForm::type;
+        for (const auto& rule : rules)
+            hasRule = hasRule || rule.key == member->key;
+        if (!hasRule)
+            throw std::invalid_argument("a member of the form has no rule");
+    }
+    std::array<MemberRule, count> result{};
+    for (std::size_t i = 0; i < count; ++i)
+        result[i] = rules[i];
+    return result;
+}
+
+/// The rules of an object: those of its base, then its own.
+struct ObjectRules
+{
+    template <std::size_t ruleCount>
+    constexpr ObjectRules(const std::array<MemberRule, ruleCount>& rules, const ObjectRules* theBase = nullptr)
+        : first(rules.data()), count(ruleCount), base(theBase)
     {
     }
 
-    const Member* begin() const noexcept { return first; }
-    const Member* end() const noexcept { return first + count; }
+    const MemberRule* begin() const noexcept { return first; }
+    const MemberRule* end() const noexcept { return first + count; }
 
-    const Member* first;
+    const MemberRule* first;
     std::size_t count;
-    const Members* base;
+    const ObjectRules* base;
 };
 
-/// The JSON form of an entity as an object.
-struct Shape
+/// What a reader asks of an object as a whole.
+struct ObjectShape
 {
-    /// The text of "_type", and what becomes of an object with another: as for `Member::without`, and for null the
-    /// reader's failure "Invalid type X : tag expected".
+    /// The text of "_type".
     std::string_view tag;
-    const char* withoutTag;
+    /// What becomes of an object without "_type"; also of one with another, unless it is MemberIsSkipped: then the
+    /// reader fails with "Invalid type X : tag expected".
+    Otherwise withoutTag;
     /// The text with which the reader fails for {}; null when it does not.
-    const char* empty;
-    Members members;
+    const char* emptyMessage;
+    ObjectRules rules;
 };
 
 /// Collects the findings of one document. Values are given to it in the order in which the reader takes them.
@@ -91,38 +128,28 @@ public:
         std::size_t length_;
     };
 
-    void Report(FindingKind kind, const JsonObject& value, std::string sentence, std::string readerMessage = {});
-    void ReportFailure(const JsonObject& value, std::string_view why, std::string readerMessage);
+    void Report(FindingKind kind, ValueView value, std::string sentence, std::string readerMessage = {});
+    void ReportFailure(ValueView value, std::string_view why, std::string readerMessage);
 
     /// An object in the shape, unknown members included.
-    void Inspect(const JsonObject& value, const Shape& shape);
-    /// The members that a table lists.
-    void InspectMembers(const JsonObject& object, const Members& members);
-    void InspectMember(const JsonObject& object, const Member& member);
+    void Inspect(ValueView value, const ObjectShape& shape);
+    void InspectMembers(ValueView object, const ObjectRules& rules);
+    void InspectMember(ValueView object, const MemberRule& rule);
     /// The same, but only what ends the process is reported.
-    void InspectForFatal(const JsonObject& object, const Members& members);
-    /// The members of an object that no table lists, "_type" aside.
-    void ReportUnknown(const JsonObject& object, const Members& members, std::string_view tag);
+    void InspectForFatal(ValueView object, const ObjectRules& rules);
+    /// The members of an object that no rule names, "_type" aside.
+    void ReportUnknown(ValueView object, const ObjectRules& rules, std::string_view tag);
 
     std::vector<Finding> TakeFindings() { return std::move(findings_); }
 
 private:
-    bool HasTag(const JsonObject& object, const Shape& shape);
-    void ReportMissing(const JsonObject& object, std::string_view key, const char* without);
-    void ReportWrongType(const JsonObject& object, const JsonObject& value, const Member& member);
+    bool HasTag(ValueView object, const ObjectShape& shape);
+    void ReportMissing(ValueView object, std::string_view key, const Otherwise& otherwise);
+    void ReportWrongType(ValueView object, ValueView value, const MemberRule& rule);
 
     std::vector<Finding> findings_;
     std::string pointer_;
 };
-
-/// The member, null ones included; a null pointer when the object does not have it.
-inline const JsonObject* FindRaw(const JsonObject& object, std::string_view key)
-{
-    return object.find(key.data(), key.data() + key.size());
-}
-
-/// The name of the member at which an iterator of an object stands.
-std::string_view NameOf(const JsonObject::const_iterator& member);
 
 /// A text of the document for a sentence: quoted, escaped, and cut when it is long.
 std::string Quote(std::string_view text, std::size_t longest = 60);

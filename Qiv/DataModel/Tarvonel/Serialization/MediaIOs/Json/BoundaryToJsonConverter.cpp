@@ -1,24 +1,25 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/BoundaryToJsonConverter.h>
 
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/BoundaryForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/Writing.h>
 
 #include <utility>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
-using MediaAssets::Serialization::Json::TimePointToJsonObjectConverter;
+using Common::Serialization::Json::Details::keyOf;
 using Tarvonel::MediaIOs::Boundary;
 using Tarvonel::MediaIOs::BoundaryAbsolute;
 using Tarvonel::MediaIOs::BoundaryOrigin;
 using Tarvonel::MediaIOs::BoundaryRelative;
 using TimePoints::TimePoint;
+using Form = Details::BoundaryForm;
 
 BoundaryToJsonConverter::BoundaryToJsonConverter() : BoundaryToJsonConverter(nullptr) {}
 
 BoundaryToJsonConverter::BoundaryToJsonConverter(SharedTimePointWriter timepointConverter)
-    : timepointConverter_(timepointConverter ? std::move(timepointConverter)
-                                             : std::make_shared<TimePointToJsonObjectConverter>())
+    : timepointConverter_(Details::OrDefault(std::move(timepointConverter)))
 {
 }
 
@@ -26,29 +27,22 @@ BoundaryToJsonConverter::~BoundaryToJsonConverter() = default;
 
 Result BoundaryToJsonConverter::To(const Boundary& boundary, Stringer& stringer) const noexcept
 {
-    const auto append = [&]() -> Result
+    const auto object = stringer.ObjectScope();
+    if (boundary.Origin() != BoundaryOrigin::Absolute)
     {
-        if (boundary.Origin() != BoundaryOrigin::Absolute)
-        {
-            const auto* const relative = dynamic_cast<const BoundaryRelative*>(&boundary);
-            return relative == nullptr ? Result("Null BoundaryRelative") : Append(stringer, *relative);
-        }
-        const auto* const absolute = dynamic_cast<const BoundaryAbsolute*>(&boundary);
-        return absolute == nullptr ? Result("Null BoundaryAbsolute") : Append(stringer, *absolute);
-    };
-
-    stringer.Object();
-    auto result = append();
-    stringer.CloseObject();
-    return result;
+        const auto* const relative = dynamic_cast<const BoundaryRelative*>(&boundary);
+        return relative == nullptr ? Result("Null BoundaryRelative") : Append(stringer, *relative);
+    }
+    const auto* const absolute = dynamic_cast<const BoundaryAbsolute*>(&boundary);
+    return absolute == nullptr ? Result("Null BoundaryAbsolute") : Append(stringer, *absolute);
 }
 
 Result BoundaryToJsonConverter::Append(Stringer& stringer, const BoundaryAbsolute& boundary) const noexcept
 {
-    stringer.Member("_type", "BoundaryAbsolute");
+    stringer.Member(keyOf<Form::type>, Form::absoluteTag);
     if (boundary.Timepoint() != TimePoint::Empty())
     {
-        stringer.Key("timepoint");
+        stringer.Key(keyOf<Form::timepoint>);
         // Dropped on purpose: it must not fail the boundary.
         static_cast<void>(AppendNested(stringer, *timepointConverter_, boundary.Timepoint()));
     }
@@ -57,9 +51,9 @@ Result BoundaryToJsonConverter::Append(Stringer& stringer, const BoundaryAbsolut
 
 Result BoundaryToJsonConverter::Append(Stringer& stringer, const BoundaryRelative& boundary) const noexcept
 {
-    stringer.Member("_type", "BoundaryRelative");
-    stringer.Member("origin", ToString(boundary.Origin()).c_str());
-    stringer.Key("offset").Value(boundary.Offset());
+    stringer.Member(keyOf<Form::type>, Form::relativeTag);
+    stringer.Member(keyOf<Form::origin>, ToString(boundary.Origin()).c_str());
+    stringer.Key(keyOf<Form::offset>).Value(boundary.Offset());
     return {};
 }
 

@@ -1,31 +1,33 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaOutputToJsonConverter.h>
 
-#include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
+#include <Qiv/Common/Serialization/Json/Details/TimePointForm.h>
+#include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/BoundaryToJsonConverter.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelWriting.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/Writing.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaIOToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/SequenceOutputToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/SpeedToJsonConverter.h>
 
-#include <memory>
 #include <utility>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
 using Common::Serialization::Json::AppendNanosecondsObject;
+using Common::Serialization::Json::Details::keyOf;
+using Common::Serialization::Json::Details::TimePointForm;
 using Details::AppendUnlessEmpty;
 using MediaAssets::TimecodePrimary;
-using MediaAssets::Serialization::Json::TimePointToJsonObjectConverter;
 using Tarvonel::MediaIOs::MediaOutput;
 using Tarvonel::MediaIOs::PlayingLoopMode;
 using TimePoints::TimePoint;
+using Form = Details::ChannelForm;
 
 MediaOutputToJsonConverter::MediaOutputToJsonConverter() : MediaOutputToJsonConverter(nullptr) {}
 
 MediaOutputToJsonConverter::MediaOutputToJsonConverter(SharedTimePointWriter timepointConverter)
-    : timepointConverter_(timepointConverter ? std::move(timepointConverter)
-                                             : std::make_shared<TimePointToJsonObjectConverter>())
+    : timepointConverter_(Details::OrDefault(std::move(timepointConverter)))
 {
 }
 
@@ -33,17 +35,15 @@ MediaOutputToJsonConverter::~MediaOutputToJsonConverter() = default;
 
 Result MediaOutputToJsonConverter::To(const MediaOutput& channel, Stringer& stringer) const noexcept
 {
-    stringer.Object();
-    auto result = AppendMediaOutput(stringer, channel);
-    stringer.CloseObject();
-    return result;
+    const auto object = stringer.ObjectScope();
+    return AppendMediaOutput(stringer, channel);
 }
 
 // The results of the nested writers below, except that of the common members, are not looked at on purpose: the channel
 // goes out with whatever they wrote.
 Result MediaOutputToJsonConverter::AppendMediaOutput(Stringer& stringer, const MediaOutput& channel) const noexcept
 {
-    stringer.Member("_type", "MediaOutput");
+    stringer.Member(keyOf<Form::type>, Form::playerTag);
 
     // One for the process, which keeps the time point writer of whoever comes first. Never destroyed, so that channels
     // can still be written while the process ends.
@@ -51,48 +51,48 @@ Result MediaOutputToJsonConverter::AppendMediaOutput(Stringer& stringer, const M
     if (auto result = mediaIOConverter.AppendMediaIO(channel, stringer); !result)
         return result;
 
-    stringer.Member("playingStatus", ToString(channel.PlayingStatus()).c_str());
+    stringer.Member(keyOf<Form::playingStatus>, ToString(channel.PlayingStatus()).c_str());
 
     if (channel.SpeedOnAir().Denominator() != 0)
     {
-        stringer.Key("speedOnAir");
+        stringer.Key(keyOf<Form::speedOnAir>);
         static_cast<void>(SpeedToJsonConverter().To(channel.SpeedOnAir(), stringer));
     }
 
     if (channel.GlobalLoopMode() != PlayingLoopMode::Unknown)
-        stringer.Member("globalLoopMode", ToString(channel.GlobalLoopMode()).c_str());
+        stringer.Member(keyOf<Form::globalLoopMode>, ToString(channel.GlobalLoopMode()).c_str());
 
-    AppendUnlessEmpty(stringer, "remainingTime", channel.RemainingTime());
+    AppendUnlessEmpty(stringer, keyOf<Form::remainingTime>, channel.RemainingTime());
 
     if (channel.CurrentTimePointOnAir() != TimePoint::Empty())
     {
         // Always in this form, whatever time point writer this converter holds.
-        stringer.Key("currentTimePointOnAir");
-        AppendNanosecondsObject(stringer, "TimePoint", channel.CurrentTimePointOnAir().Nanoseconds());
+        stringer.Key(keyOf<Form::currentTimePointOnAir>);
+        AppendNanosecondsObject(stringer, TimePointForm::tag, channel.CurrentTimePointOnAir().Nanoseconds());
     }
 
-    AppendUnlessEmpty(stringer, "todTimecodeOnAir", channel.TodTimecodeOnAir());
-    AppendUnlessEmpty(stringer, "userTimecodeOnAir", channel.UserTimecodeOnAir());
+    AppendUnlessEmpty(stringer, keyOf<Form::todTimecodeOnAir>, channel.TodTimecodeOnAir());
+    AppendUnlessEmpty(stringer, keyOf<Form::userTimecodeOnAir>, channel.UserTimecodeOnAir());
 
     if (channel.PrimaryTimecodeType() != TimecodePrimary::NotSet)
-        stringer.Member("primaryTimecodeType", ToString(channel.PrimaryTimecodeType()).c_str());
+        stringer.Member(keyOf<Form::primaryTimecodeType>, ToString(channel.PrimaryTimecodeType()).c_str());
 
     if (channel.Sequence().HasValue())
     {
-        stringer.Key("sequence");
+        stringer.Key(keyOf<Form::sequence>);
         static_cast<void>(SequenceOutputToJsonConverter(timepointConverter_).To(*channel.Sequence(), stringer));
     }
 
     if (!channel.InBoundary()->IsEmpty())
     {
-        stringer.Key("inBoundary");
+        stringer.Key(keyOf<Form::inBoundary>);
         static_cast<void>(BoundaryToJsonConverter(timepointConverter_).To(*channel.InBoundary(), stringer));
     }
 
     if (!channel.OutBoundary()->IsEmpty())
     {
         // With a time point writer of its own, unlike the in boundary; receivers expect the default form here.
-        stringer.Key("outBoundary");
+        stringer.Key(keyOf<Form::outBoundary>);
         static_cast<void>(BoundaryToJsonConverter().To(*channel.OutBoundary(), stringer));
     }
 

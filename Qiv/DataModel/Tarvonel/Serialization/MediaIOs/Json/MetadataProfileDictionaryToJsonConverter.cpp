@@ -42,7 +42,7 @@ MetadataProfileDictionaryToJsonConverter::~MetadataProfileDictionaryToJsonConver
 Result MetadataProfileDictionaryToJsonConverter::To(const MetadataProfileDictionary& dictionary,
                                                     Stringer& stringer) const
 {
-    stringer.Object();
+    const auto object = stringer.ObjectScope();
     for (const auto& [name, entry] : dictionary)
     {
         const auto* const profile = entry.get();
@@ -54,7 +54,6 @@ Result MetadataProfileDictionaryToJsonConverter::To(const MetadataProfileDiction
         else if (const auto* genericProfile = dynamic_cast<const GenericMetadataProfile*>(profile))
             AppendGenericProfile(*genericProfile, stringer);
     }
-    stringer.CloseObject();
     return {};
 }
 

@@ -1,8 +1,11 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/PelOperatorMetadataProfileToJsonConverter.h>
 
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/OperatorProfileForm.h>
+
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
+using Common::Serialization::Json::Details::keyOf;
 using Tarvonel::MediaIOs::PelOperatorMetadataProfile;
 
 PelOperatorMetadataProfileToJsonConverter::~PelOperatorMetadataProfileToJsonConverter() = default;
@@ -10,10 +13,12 @@ PelOperatorMetadataProfileToJsonConverter::~PelOperatorMetadataProfileToJsonConv
 Result PelOperatorMetadataProfileToJsonConverter::To(const PelOperatorMetadataProfile& profile,
                                                      Stringer& stringer) const
 {
+    using Form = Details::OperatorProfileForm;
+
     if (profile.ServerId() != PelOperatorMetadataProfile::EmptyServerSerialNumber())
-        stringer.Key("qiv.peloperator.serverId").Value(profile.ServerId());
+        stringer.Key(keyOf<Form::serverId>).Value(profile.ServerId());
     if (profile.Index() >= 0)
-        stringer.Key("qiv.peloperator.index").Value(profile.Index());
+        stringer.Key(keyOf<Form::index>).Value(profile.Index());
     return {};
 }
 

@@ -1,26 +1,29 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/SpeedToJsonConverter.h>
 
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/SpeedForm.h>
+
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
+using Common::Serialization::Json::Details::keyOf;
 using Tarvonel::MediaIOs::Speed;
 
 SpeedToJsonConverter::~SpeedToJsonConverter() = default;
 
 Result SpeedToJsonConverter::To(const Speed& speed, Stringer& stringer) const noexcept
 {
-    stringer.Object();
-    auto result = AppendSpeed(stringer, speed);
-    stringer.CloseObject();
-    return result;
+    const auto object = stringer.ObjectScope();
+    return AppendSpeed(stringer, speed);
 }
 
 Result SpeedToJsonConverter::AppendSpeed(Stringer& stringer, const Speed& speed) const noexcept
 {
-    stringer.Member("_type", "Speed");
-    stringer.Key("numerator").Value(speed.Numerator());
+    using Form = Details::SpeedForm;
+
+    stringer.Member(keyOf<Form::type>, Form::tag);
+    stringer.Key(keyOf<Form::numerator>).Value(speed.Numerator());
     // Not widened on purpose: a denominator of 2^31 or more goes out negative, and the reader takes it back.
-    stringer.Key("denominator").Value(static_cast<std::int32_t>(speed.Denominator()));
+    stringer.Key(keyOf<Form::denominator>).Value(static_cast<std::int32_t>(speed.Denominator()));
     return {};
 }
 

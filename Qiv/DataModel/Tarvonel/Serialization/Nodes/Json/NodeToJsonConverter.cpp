@@ -1,16 +1,22 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/NodeToJsonConverter.h>
 
+#include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/Details/NodeForm.h>
+
+#include <string>
+#include <string_view>
+
 namespace Qiv::DataModel::Tarvonel::Serialization::Nodes::Json
 {
 
 using Common::Serialization::Result;
 using Common::Serialization::Json::Stringer;
+using Common::Serialization::Json::Details::keyOf;
 using Tarvonel::Nodes::Node;
 
 namespace
 {
 
-void AppendUnlessEmpty(Stringer& stringer, const char* key, const std::string& text)
+void AppendUnlessEmpty(Stringer& stringer, std::string_view key, const std::string& text)
 {
     if (!text.empty())
         stringer.Member(key, text.c_str());
@@ -22,30 +28,30 @@ NodeToJsonConverter::~NodeToJsonConverter() = default;
 
 Result NodeToJsonConverter::To(const Node& node, Stringer& stringer) const
 {
-    stringer.Object();
-    auto result = AppendNode(stringer, node);
-    stringer.CloseObject();
-    return result;
+    const auto object = stringer.ObjectScope();
+    return AppendNode(stringer, node);
 }
 
 Result NodeToJsonConverter::AppendNode(Stringer& stringer, const Node& node) const
 {
-    stringer.Member("_type", "Node");
-    stringer.Member("id", node.NodeId().Value().c_str());
+    using Form = Details::NodeForm;
+
+    stringer.Member(keyOf<Form::type>, Form::tag);
+    stringer.Member(keyOf<Form::id>, node.NodeId().Value().c_str());
     if (node.SerialNumber() != Node::UndefinedSerialNumber())
-        stringer.Key("serialNumber").Value(node.SerialNumber());
-    AppendUnlessEmpty(stringer, "hostName", node.HostName());
-    AppendUnlessEmpty(stringer, "ipAddress", node.IpAddress());
+        stringer.Key(keyOf<Form::serialNumber>).Value(node.SerialNumber());
+    AppendUnlessEmpty(stringer, keyOf<Form::hostName>, node.HostName());
+    AppendUnlessEmpty(stringer, keyOf<Form::ipAddress>, node.IpAddress());
     if (!node.GbeIpAddresses().empty())
     {
-        stringer.Key("gbeIpAddresses").Array();
+        stringer.Key(keyOf<Form::gbeIpAddresses>);
+        const auto array = stringer.ArrayScope();
         for (const auto& address : node.GbeIpAddresses())
             stringer.Value(address.c_str());
-        stringer.CloseArray();
     }
-    AppendUnlessEmpty(stringer, "chassis", node.Chassis());
-    AppendUnlessEmpty(stringer, "hardwareRevision", node.HardwareRevision());
-    AppendUnlessEmpty(stringer, "tarvonelVersion", node.TarvonelVersion());
+    AppendUnlessEmpty(stringer, keyOf<Form::chassis>, node.Chassis());
+    AppendUnlessEmpty(stringer, keyOf<Form::hardwareRevision>, node.HardwareRevision());
+    AppendUnlessEmpty(stringer, keyOf<Form::tarvonelVersion>, node.TarvonelVersion());
     return {};
 }
 

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string_view>
 
-namespace Qiv::Common::Serialization::Json
+namespace Qiv::Common::Serialization::Json::Details
 {
 
 /// Finds a text in a small set of keys. The text's length and its first and last character lead to the only key that
@@ -101,4 +101,4 @@ private:
     std::array<std::uint8_t, placeCount> places_{};
 };
 
-} // namespace Qiv::Common::Serialization::Json
+} // namespace Qiv::Common::Serialization::Json::Details

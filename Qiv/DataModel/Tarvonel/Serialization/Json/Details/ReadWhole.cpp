@@ -1,0 +1,78 @@
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/ReadWhole.h>
+
+#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaInput.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaOutput.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/Readers.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/Details/ReadNode.h>
+
+#include <memory>
+#include <variant>
+
+namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
+{
+
+using namespace Serialization::MediaIOs::Json::Details;
+using namespace Tarvonel::MediaIOs;
+using Common::Serialization::Json::Details::ValueView;
+using Nodes::Json::Details::ReadNode;
+using Tarvonel::Nodes::Node;
+
+namespace
+{
+
+/// How each target is read, with a channel as one of its own kind, so that all of it is copied.
+struct WholeReader
+{
+    ValueView json;
+    ReadMode mode;
+
+    Result operator()(MediaIO& channel) const
+    {
+        return channel.GetMode() == MediaIO::Mode::Input ? Read(static_cast<MediaInput&>(channel), ReadMediaIO)
+                                                         : Read(static_cast<MediaOutput&>(channel), ReadMediaIO);
+    }
+    Result operator()(Node& node) const { return Read(node, ReadNode); }
+    Result operator()(SequenceOutput& sequenceOutput) const { return Read(sequenceOutput, ReadSequenceOutput); }
+    Result operator()(Speed& speed) const { return Read(speed, ReadSpeed); }
+    Result operator()(std::unique_ptr<Boundary>& boundary) const { return Read(boundary, ReadBoundary); }
+
+private:
+    template <typename Entity, typename Target>
+    Result Read(Entity& entity, Result (*read)(ValueView, Target&)) const
+    {
+        // Nodes and boundaries are replaced by every reading, so that there is nothing to copy.
+        constexpr bool isReplaced = std::is_same_v<Entity, Node> || std::is_same_v<Entity, std::unique_ptr<Boundary>>;
+        auto copy = mode == ReadMode::Merge && !isReplaced ? IndependentCopy(entity) : NewEntity(entity);
+        auto result = read(json, copy);
+        if (result)
+            entity = std::move(copy);
+        return result;
+    }
+};
+
+struct KindOfTarget
+{
+    DocumentKind operator()(const MediaIO& channel) const
+    {
+        return channel.GetMode() == MediaIO::Mode::Input ? DocumentKind::MediaInput : DocumentKind::MediaOutput;
+    }
+    DocumentKind operator()(const Node&) const { return DocumentKind::Node; }
+    DocumentKind operator()(const SequenceOutput&) const { return DocumentKind::SequenceOutput; }
+    DocumentKind operator()(const Speed&) const { return DocumentKind::Speed; }
+    DocumentKind operator()(const std::unique_ptr<Boundary>&) const { return DocumentKind::Boundary; }
+};
+
+} // namespace
+
+Result ReadWhole(ValueView json, const ReadTarget& target, ReadMode mode)
+{
+    return std::visit([&](auto entity) { return WholeReader{json, mode}(entity.get()); }, target);
+}
+
+DocumentKind KindOf(const ReadTarget& target)
+{
+    return std::visit([](auto entity) { return KindOfTarget()(entity.get()); }, target);
+}
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
