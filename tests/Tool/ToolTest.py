@@ -14,6 +14,8 @@ import termios
 import time
 import unittest
 
+import jsonschema
+
 TOOL = os.environ["TARVONEL_JSON"]
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 DOCUMENTS = ROOT / "examples/documents"
@@ -95,6 +97,22 @@ class Tool(unittest.TestCase):
         text = '{"_type":"Node","id":"\u202e\x7f"}\n'
         self.assertEqual(run("convert", text=text)[1], text)
         self.assertEqual(on_terminal("convert", text=text), '{"_type":"Node","id":"\\u202e\\u007f"}\n')
+
+    def test_PrintsFindingsAsTheSchemaSays(self):
+        schema = jsonschema.Draft7Validator(json.loads((ROOT / "schema/findings.schema.json").read_text()))
+        documents = ["", '{"_type":"node"}', '{"_type":"MediaOutput","userTimecodeOnAir":"10:00:00:00@25"}', '{"_type":"Node","a/~b":1}', '{"_type":"BoundaryRelative","origin":"Absolute"}',
+                     '{"_type":"MediaOutput","locationOnAir":1,"primaryTimecodeType":"x",'
+                     '"mediaAssetOnAir":{"mediaAsset":{},"id":"a"},"name":7,"currentTimePointOnAir":{}}',
+                     '{"_type":"Node","id":"n1"' + "".join(f',"{i}":1' for i in range(1001)) + "}"]
+        kinds = set()
+        for document in documents:
+            for arguments in ([], ["--summary"]):
+                findings = json.loads(run("check", "--output", "json", *arguments, text=document)[1])
+                schema.validate(findings)
+                kinds.update(findings["kinds"] if arguments else [finding["kind"] for finding in findings])
+        self.assertEqual(sorted(kinds), sorted(schema.schema["definitions"]["Kind"]["enum"]))
+        for wrong in ({}, [{}], [{**findings, "kind": "x"}]):
+            self.assertFalse(schema.is_valid(wrong))
 
     def test_FindsPlacesInTimeThatGrowsWithTheText(self):
         text = '{"_type":"Node","id":"n1"' + "".join(f',\r\n"k{i}":\n1' for i in range(40000)) + "}"

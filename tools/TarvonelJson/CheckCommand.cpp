@@ -40,7 +40,7 @@ void CutFindings(std::vector<CheckedFinding>& findings)
     const auto rest = findings.size() - mostFindings;
     findings.resize(mostFindings);
     findings.push_back({findings.back().position, "", "more",
-                        "and " + std::to_string(rest) + " more, which --all prints", "", Level::Any});
+                        "and " + std::to_string(rest) + " more, which --all prints", "", Level::Any, 0});
 }
 
 } // namespace
@@ -63,7 +63,8 @@ Levels, each with those before it:
   fatal      ends the process that reads the document
   failure    readers refuse the document
   skipped    a member is skipped or replaced by a default
-  any        a known member is ignored
+  any        a known member is ignored, or is written in a form that another
+             conversion changes
 
 Examples:
   tarvonel-json check recorder.json

@@ -1,5 +1,6 @@
 #include <TarvonelJson/CheckedFinding.h>
 
+#include <TarvonelJson/Instability.h>
 #include <TarvonelJson/Messages.h>
 #include <TarvonelJson/Places.h>
 #include <TarvonelJson/Printable.h>
@@ -26,7 +27,7 @@ namespace
 
 CheckedFinding FromRefusal(Refusal refusal, const char* kind, Level level)
 {
-    return {refusal.position, std::move(refusal.pointer), kind, std::move(refusal.sentence), "", level};
+    return {refusal.position, std::move(refusal.pointer), kind, std::move(refusal.sentence), "", level, 0};
 }
 
 } // namespace
@@ -39,17 +40,23 @@ std::vector<CheckedFinding> CheckDocument(const SourceText& source)
     if (!KindOf(document))
         return {FromRefusal(UnknownType(source, document), "unknown-type", Level::Failure)};
 
-    auto findings = InspectDocument(document);
-    std::stable_sort(findings.begin(), findings.end(),
-                     [](const Finding& left, const Finding& right) { return left.offset < right.offset; });
-    Places places(source.text);
-    std::vector<CheckedFinding> checked;
-    checked.reserve(findings.size());
-    for (auto& finding : findings)
+    auto checked = FindInstability(document);
+    for (auto& finding : InspectDocument(document))
     {
-        checked.push_back({places.Of(finding.offset), std::move(finding.pointer), std::string(ToString(finding.kind)),
-                           std::move(finding.sentence), std::move(finding.readerMessage), LevelOf(finding.kind)});
+        checked.push_back({{},
+                           std::move(finding.pointer),
+                           std::string(ToString(finding.kind)),
+                           std::move(finding.sentence),
+                           std::move(finding.readerMessage),
+                           LevelOf(finding.kind),
+                           finding.offset});
     }
+    std::stable_sort(checked.begin(), checked.end(),
+                     [](const CheckedFinding& left, const CheckedFinding& right)
+                     { return left.offset < right.offset; });
+    Places places(source.text);
+    for (auto& finding : checked)
+        finding.position = places.Of(finding.offset);
     return checked;
 }
 

@@ -3,6 +3,7 @@
 #include <TarvonelJson/Level.h>
 #include <TarvonelJson/SourceText.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,8 @@ struct CheckedFinding
     std::string sentence;
     std::string readerMessage;
     Level level = Level::Any;
+    /// Where the value starts in the text.
+    std::ptrdiff_t offset = 0;
 };
 
 /// What there is to say of a document, in the order of the places.
