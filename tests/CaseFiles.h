@@ -12,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <set>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -79,11 +80,9 @@ inline std::string Document(const std::string& pointer)
     static const auto text = FileText("cases/documents.json");
     static const auto documents = Parse(text);
     const auto* value = &documents;
-    for (std::size_t begin = 1, end = 0; end != std::string::npos; begin = end + 1)
-    {
-        end = pointer.find('/', begin);
-        value = &(*value)[pointer.substr(begin, end - begin)];
-    }
+    std::istringstream names(pointer.substr(1));
+    for (std::string name; std::getline(names, name, '/');)
+        value = &(*value)[name];
     if (value->isNull())
         throw std::runtime_error("nothing is at " + pointer);
     return TextOf(*value, text);

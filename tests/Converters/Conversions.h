@@ -10,6 +10,7 @@
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/MediaAssetToJsonConverter.h>
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/SharedReferenceToJson.h>
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/PelOperatorMetadataProfile.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/BoundaryToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToBoundaryConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToMediaIOConverter.h>
@@ -29,11 +30,11 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/JsonToNodeConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/NodeToJsonConverter.h>
 
-#include <map>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 /// What the tests of the converters share: reading and writing in one line, what cases say, and full documents.
 namespace Qiv::Tests
@@ -51,6 +52,17 @@ using BusinessEntityModel::Edits::Sequence;
 using TimePoints::Duration;
 using TimePoints::TimeCode;
 using TimePoints::TimePoint;
+
+/// Writes what belongs into an object as one.
+struct OperatorWriter : PelOperatorMetadataProfileToJsonConverter
+{
+    using PelOperatorMetadataProfileToJsonConverter::To;
+    Result To(const PelOperatorMetadataProfile& profile, Stringer& stringer) const override
+    {
+        const auto object = stringer.ObjectScope();
+        return PelOperatorMetadataProfileToJsonConverter::To(profile, stringer);
+    }
+};
 
 /// The reader and the writer of an entity.
 std::pair<JsonToTimePointConverter, TimePointToJsonObjectConverter> ConvertersOf(const TimePoint&);
@@ -122,15 +134,50 @@ inline JsonObject After(const Case& each, const std::string& before, const std::
     return after;
 }
 
-/// Runs the checks of the converters that a case names: that of its entity, or those in the list `converters`, of which
-/// "MediaIO" is that of channels of both kinds.
-inline void EachConverter(const Case& each, const std::string& converters, const std::map<std::string, Check>& checks)
+/// A reader and a writer of an entity, by the name that they have in cases.
+template <typename Entity_, typename Reader_ = ReaderOf<Entity_>, typename Writer_ = WriterOf<Entity_>>
+struct Conversion
 {
-    const auto entity = each.Text("entity");
-    if (!each.Has(converters))
-        checks.at(entity)(each);
-    for (const auto& name : each.List(converters))
-        checks.at(Parse(name) == entity ? entity : entity + " by " + Parse(name).asString())(each);
+    using Entity = Entity_;
+    using Reader = Reader_;
+    using Writer = Writer_;
+    std::string name;
+    Reader reader = {};
+    Writer writer = {};
+};
+
+/// Calls `use` with each conversion that a case names: that of its entity, or those in the list `converters`, of which
+/// "MediaIO" is that of channels of both kinds.
+template <typename Use>
+void ForEachConversion(const Case& each, const std::string& converters, const Use& use)
+{
+    const auto entity = each.JsonText("entity");
+    for (const auto& converter : each.Has(converters) ? each.List(converters) : std::vector{entity})
+    {
+        const auto name = Parse(entity).asString() + (converter == entity ? "" : " by " + Parse(converter).asString());
+        const auto useIfNamed = [&](const auto& conversion)
+        { return conversion.name == name && (use(conversion), true); };
+        const std::string reference = "MediaAssetRef", asset = "mediaAsset";
+        const bool isKnown =
+            useIfNamed(Conversion<TimePoint>{"TimePoint"}) || useIfNamed(Conversion<MediaAsset>{"MediaAsset"}) ||
+            useIfNamed(Conversion<Sequence>{"Sequence"}) || useIfNamed(Conversion<Speed>{"Speed"}) ||
+            useIfNamed(Conversion<std::unique_ptr<Boundary>>{"Boundary"}) ||
+            useIfNamed(Conversion<SequenceOutput>{"SequenceOutput"}) ||
+            useIfNamed(Conversion<MetadataProfileDictionary>{"Metadata"}) || useIfNamed(Conversion<Node>{"Node"}) ||
+            useIfNamed(Conversion<PelOperatorMetadataProfile, JsonToPelOperatorMetaDataConverter, OperatorWriter>{
+                "Operator"}) ||
+            useIfNamed(Conversion<SharedReference<MediaAsset>, JsonToSharedReference<MediaAsset>,
+                                  SharedReferenceToJson<MediaAsset, false>>{
+                "MediaAssetReference",
+                {reference, asset, std::make_shared<JsonToMediaAssetConverter>()},
+                {reference, asset, std::make_shared<MediaAssetToJsonConverter>()}}) ||
+            useIfNamed(Conversion<MediaInput, JsonToMediaInputConverter, MediaInputToJsonConverter>{"MediaInput"}) ||
+            useIfNamed(
+                Conversion<MediaOutput, JsonToMediaOutputConverter, MediaOutputToJsonConverter>{"MediaOutput"}) ||
+            useIfNamed(Conversion<MediaInput>{"MediaInput by MediaIO"}) ||
+            useIfNamed(Conversion<MediaOutput>{"MediaOutput by MediaIO"});
+        EXPECT_TRUE(isKnown) << name;
+    }
 }
 
 inline const auto fullInput = Document("/recorder"), fullOutput = Document("/player"), fullNode = Document("/node"),

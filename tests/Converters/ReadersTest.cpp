@@ -1,11 +1,9 @@
 #include "Conversions.h"
 
 #include <Qiv/BusinessEntityModel/BaseTypes/GenericMetadataProfile.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/PelOperatorMetadataProfile.h>
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -15,68 +13,32 @@ namespace Qiv::Tests
 namespace
 {
 
-/// Each document of a case, read into each entity that it names, and as a temporary too.
-template <typename Entity, typename Reader = ReaderOf<Entity>, typename Writer = WriterOf<Entity>>
-Check Reading(const Reader& reader = Reader(), const Writer& writer = Writer())
+/// Reads each document of a case into each entity that it names, also as a temporary.
+const auto checkReading = [](const Case& each, const auto& conversion)
 {
-    return [=](const Case& each)
-    {
-        for (const auto& before : each.List("before"))
-            for (const auto& document : each.Documents())
-                for (const bool asTemporary : {false, true})
-                {
-                    SCOPED_TRACE("reading " + document + (asTemporary ? " as a temporary" : "") + " into " + before);
-                    Entity entity{};
-                    if (before != "null")
-                        Read(before, entity, reader);
-                    const auto after = After(each, Written(entity, writer), document);
-                    const auto json = Parse(document);
-                    auto given = json;
-                    const auto result = asTemporary ? reader.To(std::move(given), entity) : reader.To(json, entity);
-                    EXPECT_STREQ(result.ErrorMessage(), each.Text("message").c_str());
-                    EXPECT_EQ(result, !each.Has("message"));
-                    EXPECT_EQ(Parse(Written(entity, writer)).toStyledString(), after.toStyledString());
-                    EXPECT_TRUE(given == json) << given.toStyledString();
-                    EXPECT_STREQ(reader.GetLastConversionError(), "");
-                }
-    };
-}
-
-struct OperatorWriter : PelOperatorMetadataProfileToJsonConverter
-{
-    using PelOperatorMetadataProfileToJsonConverter::To;
-    Result To(const PelOperatorMetadataProfile& profile, Stringer& stringer) const override
-    {
-        const auto object = stringer.ObjectScope();
-        return PelOperatorMetadataProfileToJsonConverter::To(profile, stringer);
-    }
+    const auto& [name, reader, writer] = conversion;
+    for (const auto& before : each.List("before"))
+        for (const auto& document : each.Documents())
+            for (const bool asTemporary : {false, true})
+            {
+                SCOPED_TRACE(name + " reads " + document + (asTemporary ? " as a temporary" : "") + " into " + before);
+                typename std::decay_t<decltype(conversion)>::Entity entity{};
+                if (before != "null")
+                    Read(before, entity, reader);
+                const auto after = After(each, Written(entity, writer), document);
+                const auto json = Parse(document);
+                auto given = json;
+                const auto result = asTemporary ? reader.To(std::move(given), entity) : reader.To(given, entity);
+                EXPECT_STREQ(result.ErrorMessage(), each.Text("message").c_str());
+                EXPECT_EQ(result, !each.Has("message"));
+                EXPECT_EQ(Parse(Written(entity, writer)).toStyledString(), after.toStyledString());
+                EXPECT_TRUE(given == json) << given.toStyledString();
+                EXPECT_STREQ(reader.GetLastConversionError(), "");
+            }
 };
-
-void CheckReaders(const Case& each)
-{
-    const JsonToSharedReference<MediaAsset> referenceReader("MediaAssetRef", "mediaAsset",
-                                                            std::make_shared<JsonToMediaAssetConverter>());
-    const SharedReferenceToJson<MediaAsset, false> referenceWriter("MediaAssetRef", "mediaAsset",
-                                                                   std::make_shared<MediaAssetToJsonConverter>());
-    const std::map<std::string, Check> readers = {
-        {"TimePoint", Reading<TimePoint>()},
-        {"MediaAsset", Reading<MediaAsset>()},
-        {"Sequence", Reading<Sequence>()},
-        {"MediaAssetReference", Reading<SharedReference<MediaAsset>>(referenceReader, referenceWriter)},
-        {"Speed", Reading<Speed>()},
-        {"Boundary", Reading<std::unique_ptr<Boundary>>()},
-        {"SequenceOutput", Reading<SequenceOutput>()},
-        {"Metadata", Reading<MetadataProfileDictionary>()},
-        {"Operator", Reading<PelOperatorMetadataProfile>(JsonToPelOperatorMetaDataConverter(), OperatorWriter())},
-        {"Node", Reading<Node>()},
-        {"MediaInput", Reading<MediaInput>(JsonToMediaInputConverter(), MediaInputToJsonConverter())},
-        {"MediaOutput", Reading<MediaOutput>(JsonToMediaOutputConverter(), MediaOutputToJsonConverter())},
-        {"MediaInput by MediaIO", Reading<MediaInput>()},
-        {"MediaOutput by MediaIO", Reading<MediaOutput>()},
-    };
-    EachConverter(each, "readers", readers);
-}
-const bool areRegistered = RegisterFolder("readers", CheckReaders);
+const bool areRegistered = RegisterFolder(
+    "readers", [](const Case& each)
+    { ForEachConversion(each, "readers", [&](const auto& conversion) { checkReading(each, conversion); }); });
 
 TEST(JsonToSharedReference, RefusesObjectsWithoutAReaderForThem)
 {

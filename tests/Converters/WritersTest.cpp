@@ -3,7 +3,6 @@
 #include <Qiv/BusinessEntityModel/BaseTypes/GenericMetadataProfile.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryAbsolute.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryRelative.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/PelOperatorMetadataProfile.h>
 
 #include <gtest/gtest.h>
 
@@ -19,30 +18,14 @@ namespace
 
 using TimePoints::Rate;
 
-SharedReference<MediaAsset> AssetNamed(const std::string& id, const std::string& name, TimePoint inPoint = {},
-                                       TimePoint outPoint = {})
+SharedReference<MediaAsset> Goal()
 {
     const auto asset = std::make_shared<MediaAsset>();
-    asset->Id(Identifier(id));
-    asset->Name(name);
-    asset->InPoint(inPoint);
-    asset->OutPoint(outPoint);
+    asset->Id(Identifier("a1"));
+    asset->Name("Goal");
+    asset->InPoint(TimePoint(-1));
+    asset->OutPoint(TimePoint(INT64_MAX));
     return asset;
-}
-
-void SetMetadata(MediaIO& channel, std::int32_t server, std::int32_t index,
-                 const std::map<std::string, std::pair<std::string, std::string>>& profiles)
-{
-    const auto forOperator = std::make_shared<PelOperatorMetadataProfile>();
-    forOperator->ServerId(server);
-    forOperator->Index(index);
-    channel.Metadata().Set(forOperator);
-    for (const auto& [name, entry] : profiles)
-    {
-        const auto profile = std::make_shared<GenericMetadataProfile>(FullyQualifiedName(name));
-        profile->Set(entry.first, entry.second);
-        channel.Metadata().Set(profile);
-    }
 }
 
 const TimeCode timeCode(2016, 3, 21, 14, 5, 9, 17, Rate(25), false);
@@ -53,8 +36,20 @@ TEST(Writers, WriteARecorderOfWhichEveryMemberIsSet)
     MediaInput recorder;
     recorder.Id(Identifier("c1"));
     recorder.Name("Cam \"A\" \xC3\xA9");
-    recorder.MediaAssetOnAir(AssetNamed("a1", "Goal", TimePoint(-1), TimePoint(INT64_MAX)));
-    SetMetadata(recorder, 1230, 7, {{"a", {"b", "1"}}, {"a.b", {"c", "2"}}, {"z", {"", "\x01"}}});
+    recorder.MediaAssetOnAir(Goal());
+    PelOperatorMetadataProfile forOperator;
+    forOperator.ServerId(1230);
+    forOperator.Index(7);
+    recorder.Metadata().Set(forOperator.Clone());
+    for (const std::string name : {"a", "a.b", "z"})
+        recorder.Metadata().Set(std::make_shared<GenericMetadataProfile>(FullyQualifiedName(name)));
+    const auto profile = [&](const char* name) -> auto&
+    {
+        return dynamic_cast<GenericMetadataProfile&>(recorder.Metadata().At(FullyQualifiedName(name)));
+    };
+    profile("a").Set("b", "1");
+    profile("a.b").Set("c", "2");
+    profile("z").Set("", "\x01");
     recorder.RecordingStatus(RecordingStatus::Recording);
     recorder.LastTimePoint(TimePoint(1458569109680000000));
     recorder.LastTodTimecode(timeCode);
@@ -74,7 +69,7 @@ TEST(Writers, WriteAPlayerOfWhichEveryMemberIsSet)
     sequence->Name("Highlights");
     SequenceOutput::AssetBlockOutput block;
     block.Id(Identifier("b1"));
-    block.MediaAssetRef(AssetNamed("a1", "Goal", TimePoint(-1), TimePoint(INT64_MAX)));
+    block.MediaAssetRef(Goal());
     SequenceOutput sequenceOutput;
     sequenceOutput.SequenceOnAir(SharedReference<Sequence>(sequence));
     sequenceOutput.AssetBlockOnAir(block);
@@ -84,8 +79,9 @@ TEST(Writers, WriteAPlayerOfWhichEveryMemberIsSet)
     MediaOutput player;
     player.Id(Identifier("c2"));
     player.Name("P");
-    player.MediaAssetOnAir(AssetNamed("a2", "Foul"));
-    SetMetadata(player, 20, 0, {{"a", {"b", "1"}}});
+    Read(R"({"mediaAssetOnAir":{"mediaAsset":{"id":"a2","name":"Foul"}},"metadata":{"a.b":"1",)"
+         R"("qiv.peloperator.serverId":20,"qiv.peloperator.index":0}})",
+         player, JsonToMediaOutputConverter());
     player.PlayingStatus(PlayingStatus::Playing);
     player.SpeedOnAir(Speed(-3, 2));
     player.GlobalLoopMode(PlayingLoopMode::Bounce);
@@ -203,73 +199,45 @@ struct Injected : ToJsonConverter<TimePoint>
     Result result;
 };
 
-/// What a writer makes of the entity that a case holds, whose text it is when it says "unchanged".
-template <typename Entity, typename Writer = WriterOf<Entity>, typename Reader = ReaderOf<Entity>>
-Check Writing(Writer writer = Writer(), const Reader& reader = Reader())
+/// What a writer makes of the entity that a case holds, also of a temporary: its text, when the case says "unchanged".
+const auto checkWriting = [](const Case& each, const auto& conversion)
 {
-    return [=](const Case& each)
-    {
-        static const std::map<std::string, std::shared_ptr<Injected>> timePoints = {
-            {"marked", std::make_shared<Injected>(true, Result())},
-            {"failing", std::make_shared<Injected>(true, "no time points here")},
-            {"silent", std::make_shared<Injected>(false, "silent")}};
-        auto used = writer;
-        if constexpr (std::is_constructible_v<Writer, std::shared_ptr<Injected>>)
-            if (each.Has("timePoints"))
-                used = Writer(timePoints.at(each.Text("timePoints")));
+    using Conversion = std::decay_t<decltype(conversion)>;
+    const std::map<std::string, std::shared_ptr<Injected>> timePoints = {
+        {"marked", std::make_shared<Injected>(true, Result())},
+        {"failing", std::make_shared<Injected>(true, "no time points here")},
+        {"silent", std::make_shared<Injected>(false, "silent")}};
+    auto writer = conversion.writer;
+    if constexpr (std::is_constructible_v<typename Conversion::Writer, std::shared_ptr<Injected>>)
+        if (each.Has("timePoints"))
+            writer = typename Conversion::Writer(timePoints.at(each.Text("timePoints")));
 
-        const auto holds = Followed(each.JsonText("holds"));
-        Entity entity{};
-        Read(holds, entity, reader);
-        auto& value = [&]() -> auto&
-        {
-            if constexpr (std::is_same_v<Entity, std::unique_ptr<Boundary>>)
-                return *entity;
-            else
-                return entity;
-        }
-        ();
+    const auto holds = Followed(each.JsonText("holds"));
+    typename Conversion::Entity entity{};
+    Read(holds, entity, conversion.reader);
+    const auto write = [&](auto& value)
+    {
         for (const bool asTemporary : {false, true})
         {
+            SCOPED_TRACE(conversion.name + " writes " + holds + (asTemporary ? " as a temporary" : ""));
             Stringer stringer;
             const auto result =
-                asTemporary ? used.To(std::move(value), stringer) : used.To(std::as_const(value), stringer);
+                asTemporary ? writer.To(std::move(value), stringer) : writer.To(std::as_const(value), stringer);
             EXPECT_STREQ(result.ErrorMessage(), each.Text("message").c_str());
             EXPECT_EQ(result, !each.Has("message"));
             EXPECT_EQ(Parse(stringer.ToString()).toStyledString(), After(each, holds).toStyledString());
-            if (!each.Has("changes"))
-            {
-                EXPECT_EQ(stringer.ToString(), holds);
-            }
-            EXPECT_STREQ(used.GetLastConversionError(), "");
+            EXPECT_EQ(each.Has("changes") ? holds : stringer.ToString(), holds);
+            EXPECT_STREQ(writer.GetLastConversionError(), "");
         }
     };
-}
-
-void CheckWriters(const Case& each)
-{
-    const JsonToSharedReference<MediaAsset> referenceReader("MediaAssetRef", "mediaAsset",
-                                                            std::make_shared<JsonToMediaAssetConverter>());
-    const SharedReferenceToJson<MediaAsset, false> referenceWriter("MediaAssetRef", "mediaAsset",
-                                                                   std::make_shared<MediaAssetToJsonConverter>());
-    const std::map<std::string, Check> writers = {
-        {"TimePoint", Writing<TimePoint>()},
-        {"MediaAsset", Writing<MediaAsset>()},
-        {"Sequence", Writing<Sequence>()},
-        {"MediaAssetReference", Writing<SharedReference<MediaAsset>>(referenceWriter, referenceReader)},
-        {"Speed", Writing<Speed>()},
-        {"Boundary", Writing<std::unique_ptr<Boundary>>()},
-        {"SequenceOutput", Writing<SequenceOutput>()},
-        {"Metadata", Writing<MetadataProfileDictionary>()},
-        {"Node", Writing<Node>()},
-        {"MediaInput", Writing<MediaInput>(MediaInputToJsonConverter())},
-        {"MediaOutput", Writing<MediaOutput>(MediaOutputToJsonConverter())},
-        {"MediaInput by MediaIO", Writing<MediaInput>()},
-        {"MediaOutput by MediaIO", Writing<MediaOutput>()},
-    };
-    EachConverter(each, "writers", writers);
-}
-const bool areRegistered = RegisterFolder("writers", CheckWriters);
+    if constexpr (std::is_same_v<typename Conversion::Entity, std::unique_ptr<Boundary>>)
+        write(*entity);
+    else
+        write(entity);
+};
+const bool areRegistered = RegisterFolder(
+    "writers", [](const Case& each)
+    { ForEachConversion(each, "writers", [&](const auto& conversion) { checkWriting(each, conversion); }); });
 
 TEST(SharedReferenceToJson, FailsAsTheWriterOfTheObjectDoes)
 {
@@ -277,7 +245,7 @@ TEST(SharedReferenceToJson, FailsAsTheWriterOfTheObjectDoes)
         "MediaAssetRef", "mediaAsset",
         std::make_shared<MediaAssetToJsonConverter>(std::make_shared<Injected>(true, "no time points here")));
     EXPECT_EQ(
-        Written(AssetNamed("a1", "Goal", TimePoint(-1)), references),
+        Written(Goal(), references),
         R"({"_type":"MediaAssetRef","id":"a1","mediaAsset":{"_type":"MediaAsset","id":"a1","name":"Goal","inPoint":-1}} | no time points here)");
 }
 
