@@ -4,36 +4,14 @@
 
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ToText.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
 
-#include <json/value.h>
-
-#include <string>
 #include <vector>
 
 namespace TarvonelJson
 {
 
 using namespace Qiv::DataModel::Tarvonel::Serialization::Json;
-using Documents::AnyResult;
 using Documents::Layout;
-
-namespace
-{
-
-AnyResult Read(std::string_view text, std::vector<Finding>* findings)
-{
-    if (findings == nullptr)
-        return Documents::ReadAnyText(text);
-    Json::Value document;
-    if (auto result = ParseText(text, document); !result)
-        return result;
-    *findings = InspectDocument(document);
-    return Documents::ReadAny(document);
-}
-
-} // namespace
 
 ConvertCommand::ConvertCommand(CLI::App& program)
     : Command(program, "convert", "Read documents and write them in canonical form, one line each",
@@ -66,7 +44,9 @@ ExitStatus ConvertCommand::Convert(const SourceText& source, Output& output, Los
 {
     const bool looksForLosses = isStrict_ || !isQuiet_;
     std::vector<Finding> findings;
-    const auto result = Read(source.text, looksForLosses ? &findings : nullptr);
+    ReadOptions options;
+    options.findings = looksForLosses ? &findings : nullptr;
+    const auto result = Documents::ReadAnyText(source.text, options);
     if (!result)
         return Report(source, WhyNotRead(source));
     const auto text = Documents::ToText(result.Entity(), isPretty_ ? Layout::Pretty : Layout::Compact);
@@ -76,7 +56,7 @@ ExitStatus ConvertCommand::Convert(const SourceText& source, Output& output, Los
         if (isStrict_ && (!findings.empty() || timeCodes > 0))
             return Report(source, RefusalOfLoss(source, findings));
         if (!isQuiet_)
-            losses.Count(findings.size(), timeCodes);
+            losses.Count(findings.size(), timeCodes, findings.size() < options.maximumFindings);
     }
     output.WriteJson(text);
     return ExitStatus::Success;

@@ -14,8 +14,9 @@ namespace TarvonelJson
 
 using namespace Qiv::DataModel::Tarvonel::Serialization::Json;
 
-void Losses::Count(std::size_t members, std::size_t timeCodes)
+void Losses::Count(std::size_t members, std::size_t timeCodes, bool areAll)
 {
+    areAllMembers_ = areAllMembers_ && areAll;
     members_ += static_cast<std::int64_t>(members);
     documentsOfMembers_ += members > 0 ? 1 : 0;
     timeCodes_ += static_cast<std::int64_t>(timeCodes);
@@ -27,8 +28,9 @@ void Losses::Report() const
     const auto inDocuments = [](std::int64_t count)
     { return " in " + std::to_string(count) + (count == 1 ? " document " : " documents "); };
     if (members_ > 0)
-        TarvonelJson::Report(std::to_string(members_) + (members_ == 1 ? " member" : " members") +
-                             inDocuments(documentsOfMembers_) + (members_ == 1 ? "was" : "were") +
+        TarvonelJson::Report((areAllMembers_ ? "" : "at least ") + std::to_string(members_) +
+                             (members_ == 1 ? " member" : " members") + inDocuments(documentsOfMembers_) +
+                             (members_ == 1 ? "was" : "were") +
                              " skipped or replaced by a default; run check to see them");
     if (timeCodes_ > 0)
         TarvonelJson::Report(std::to_string(timeCodes_) + (timeCodes_ == 1 ? " time code" : " time codes") +

@@ -11,14 +11,16 @@ namespace TarvonelJson
 class Losses
 {
 public:
-    /// `members` were skipped or replaced by a default, `timeCodes` are written in a form that no reader takes.
-    void Count(std::size_t members, std::size_t timeCodes);
+    /// `members` of a document were skipped or replaced by a default, of which `areAll` tells whether there are no
+    /// more; `timeCodes` are written in a form that no reader takes.
+    void Count(std::size_t members, std::size_t timeCodes, bool areAll = true);
 
     /// Writes on standard error what was counted, if anything.
     void Report() const;
 
 private:
     std::int64_t members_ = 0;
+    bool areAllMembers_ = true;
     std::int64_t documentsOfMembers_ = 0;
     std::int64_t timeCodes_ = 0;
     std::int64_t documentsOfTimeCodes_ = 0;
