@@ -1,6 +1,8 @@
 #include "Conversions.h"
 
 #include <Qiv/BusinessEntityModel/BaseTypes/GenericMetadataProfile.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryAbsolute.h>
+#include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryRelative.h>
 
 #include <gtest/gtest.h>
 
@@ -40,6 +42,60 @@ const bool areRegistered = RegisterFolder(
     "readers", [](const Case& each)
     { ForEachConversion(each, "readers", [&](const auto& conversion) { checkReading(each, conversion); }); });
 
+void ExpectGoal(const SharedReference<MediaAsset>& reference)
+{
+    ASSERT_TRUE(reference.Pointer());
+    EXPECT_EQ(reference->Id(), Identifier("a1"));
+    EXPECT_EQ(reference->Name(), "Goal");
+    EXPECT_EQ(reference->InPoint(), TimePoint(-1));
+    EXPECT_EQ(reference->OutPoint(), TimePoint(INT64_MAX));
+}
+
+const TimeCode timeCode(2016, 3, 21, 14, 5, 9, 17, TimePoints::Rate(25), false);
+
+// What is written agrees also when reader and writer take the same member for another one.
+TEST(Readers, PutEveryMemberOfARecorderWhereItBelongs)
+{
+    const auto recorder = FromText<MediaInput>(fullInput);
+    EXPECT_EQ(recorder.Id(), Identifier("c1"));
+    EXPECT_EQ(recorder.Name(), "Cam \"A\" \xC3\xA9");
+    ExpectGoal(recorder.MediaAssetOnAir());
+    const auto& metadata = recorder.Metadata();
+    EXPECT_EQ(dynamic_cast<const GenericMetadataProfile&>(*metadata.Find("a.b")).Get("c"), "2");
+    const auto& forOperator = dynamic_cast<const PelOperatorMetadataProfile&>(*metadata.Find("qiv.peloperator"));
+    EXPECT_EQ(forOperator.ServerId(), 1230);
+    EXPECT_EQ(forOperator.Index(), 7);
+    EXPECT_EQ(recorder.RecordingStatus(), RecordingStatus::Recording);
+    EXPECT_EQ(recorder.LastTimePoint(), TimePoint(1458569109680000000));
+    EXPECT_EQ(recorder.LastTodTimecode(), timeCode);
+    EXPECT_EQ(recorder.LastUserTimecode(), TimeCode(2016, 3, 21, 0, 10, 0, 0, TimePoints::Rate(30), true));
+    EXPECT_EQ(recorder.PrimaryTimecodeType(), TimecodePrimary::User);
+    EXPECT_EQ(recorder.RemainingCapacity(), Duration(3600000000000));
+    EXPECT_EQ(recorder.TotalCapacity(), Duration(7200000000000));
+}
+
+TEST(Readers, PutEveryMemberOfAPlayerWhereItBelongs)
+{
+    const auto player = FromText<MediaOutput>(fullOutput);
+    EXPECT_EQ(player.PlayingStatus(), PlayingStatus::Playing);
+    EXPECT_EQ(player.SpeedOnAir(), Speed(-3, 2));
+    EXPECT_EQ(player.GlobalLoopMode(), PlayingLoopMode::Bounce);
+    EXPECT_EQ(player.RemainingTime(), Duration(-40000000));
+    EXPECT_EQ(player.CurrentTimePointOnAir(), TimePoint(0));
+    EXPECT_EQ(player.TodTimecodeOnAir(), timeCode);
+    EXPECT_EQ(player.UserTimecodeOnAir(), TimeCode::Empty() + 1);
+    EXPECT_EQ(player.PrimaryTimecodeType(), TimecodePrimary::Tod);
+    EXPECT_EQ(*player.InBoundary(), BoundaryAbsolute(TimePoint(5)));
+    EXPECT_EQ(*player.OutBoundary(), BoundaryRelative(BoundaryOrigin::RelativeToOppositeLoadBoundary, -25));
+    const auto& sequence = player.Sequence().Value();
+    EXPECT_EQ(sequence.SequenceOnAir()->Id(), Identifier("s1"));
+    EXPECT_EQ(sequence.SequenceOnAir()->Name(), "Highlights");
+    EXPECT_EQ(sequence.AssetBlockOnAir().Id(), Identifier("b1"));
+    ExpectGoal(sequence.AssetBlockOnAir().MediaAssetRef());
+    EXPECT_EQ(sequence.NextAssetBlockOnAir(), SequenceOutput::AssetBlockOutput());
+    EXPECT_TRUE(sequence.EditMode());
+}
+
 TEST(JsonToSharedReference, RefusesObjectsWithoutAReaderForThem)
 {
     const JsonToSharedReference<MediaAsset> withoutReader("MediaAssetRef", "mediaAsset", nullptr);
@@ -58,7 +114,7 @@ TEST(JsonToBoundaryConverter, AppendsTheKindThatIsAskedFor)
     EXPECT_TRUE(boundary->IsEmpty());
 }
 
-TEST(JsonToSequenceOutputConverter, ReadsBlocks)
+TEST(JsonToSequenceOutputConverter, KeepsTheIdentifierOfABlockThatFails)
 {
     SequenceOutput::AssetBlockOutput block;
     const JsonToSequenceOutputConverter reader;
@@ -68,7 +124,7 @@ TEST(JsonToSequenceOutputConverter, ReadsBlocks)
     EXPECT_EQ(block.Id().Value(), "kept");
 }
 
-TEST(JsonToMetadataProfileDictionaryConverter, MeetsProfilesOfOtherKinds)
+TEST(JsonToMetadataProfileDictionaryConverter, ThrowsAtAProfileOfTheWrongKindForItsName)
 {
     // A profile of the wrong kind for its name throws; an entry without profile counts as absent.
     const FullyQualifiedName operatorName("qiv.peloperator");
