@@ -4,6 +4,7 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ToText.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
 
 #include "ExampleDocuments.h"
 #include "ThrownText.h"
@@ -27,7 +28,7 @@ using Common::Serialization::Json::JsonObject;
 namespace
 {
 
-std::string Told(const AnyResult& result)
+std::string Told(const TextResult& result)
 {
     return result ? "read"
                   : std::to_string(result.Position().line) + ':' + std::to_string(result.Position().column) + ' ' +
@@ -119,6 +120,7 @@ TEST(ReadOptions, RefuseWhatTheReaderWouldPassOver)
          "1:41 /recordingStatus: \"?\" is none of Idle, Pause, Recording; it is read as Idle", 2},
         {R"({"_type":"BoundaryRelative","origin":"Absolute"})", FindingKind::EndsProcess,
          "1:38 /origin: \"Absolute\" is the origin of a relative boundary, which ends the process", 1},
+        {R"({"_type":"MediaInput","id":"n1","name":7})", {}, "read", 1},
         // Another identifier than "n1", which is expected.
         {R"({"_type":"Node","id":"n2","x":1})", {}, R"(1:22 /id: "n2" is another identifier than "n1")", 1},
         {R"({"_type":"MediaInput","id":"n1\u0000"})", {}, R"(1:28 /id: "n1\u0000" is another identifier than "n1")", 0},
@@ -144,10 +146,16 @@ TEST(ReadOptions, RefuseWhatTheReaderWouldPassOver)
         EXPECT_EQ(Told(ReadAnyText(each.text, options)), Told(unasked));
         EXPECT_EQ(findings.size(), std::min<std::size_t>(each.findings, 1));
         JsonObject json;
-        if (ParseText(each.text, json))
-        {
-            EXPECT_EQ(ReadAny(json, options).ErrorMessage(), unasked.ErrorMessage());
-        }
+        if (!ParseText(each.text, json))
+            continue;
+        EXPECT_EQ(ReadAny(json, options).ErrorMessage(), unasked.ErrorMessage());
+        if (KindOf(json) != DocumentKind::MediaInput)
+            continue;
+        MediaInput recorder;
+        recorder.Name("kept");
+        EXPECT_EQ(Told(MergeText(each.text, recorder, options)), Told(unasked));
+        EXPECT_EQ(Told(ReadSnapshotText(each.text, recorder, options)), Told(unasked));
+        EXPECT_EQ(recorder.Name(), unasked ? "" : "kept");
     }
     ReadOptions nothingExpected;
     EXPECT_EQ(Told(ReadAnyText(R"({"_type":"Node","id":"n2"})", nothingExpected)), "read");
@@ -174,28 +182,26 @@ TEST(AnyDocument, HasAnIdentifierOnlyWhereAReaderTakesOne)
 namespace
 {
 
-// Whether the functions for a `Json::Value` take a `T`.
-template <typename T, typename = void>
-struct Taken : std::false_type
-{
-};
-template <typename T>
-struct Taken<T, std::void_t<decltype(ReadAny(std::declval<T>()))>> : std::true_type
-{
-};
-template <typename T, typename = void>
-struct IsAsked : std::false_type
-{
-};
-template <typename T>
-struct IsAsked<T, std::void_t<decltype(KindOf(std::declval<T>()), IdOf(std::declval<T>()))>> : std::true_type
-{
-};
+// Whether each of the functions for a `Json::Value` takes a `T`.
+constexpr auto kindOf = [](auto&& json) -> decltype(KindOf(json)) { return {}; };
+constexpr auto idOf = [](auto&& json) -> decltype(IdOf(json)) { return {}; };
+constexpr auto inspect = [](auto&& json) -> decltype(InspectDocument(json)) { return {}; };
+constexpr auto inspectKind = [](auto&& json) -> decltype(InspectDocument(json, DocumentKind::Node)) { return {}; };
+constexpr auto readAny = [](auto&& json) -> decltype(ReadAny(json)) { return ReadAny(json); };
+constexpr auto mergeWhole = [](auto&& json) -> decltype(MergeWhole(json, std::declval<MediaInput&>())) { return {}; };
+constexpr auto readSnapshot = [](auto&& json) -> decltype(ReadSnapshot(json, std::declval<MediaInput&>()))
+{ return {}; };
 
-template <typename... Texts>
-constexpr bool noTextIsTaken = !(Taken<Texts>::value || ...) && !(IsAsked<Texts>::value || ...);
-static_assert(Taken<const JsonObject&>::value && IsAsked<const JsonObject&>::value);
-static_assert(noTextIsTaken<const char*, const char (&)[3], std::string, std::string&, std::string_view>);
+template <typename T, typename... Functions>
+constexpr int CountOfTaking(Functions...)
+{
+    return (0 + ... + (std::is_invocable_v<Functions, T> ? 1 : 0));
+}
+template <typename T>
+constexpr int taking = CountOfTaking<T>(kindOf, idOf, inspect, inspectKind, readAny, mergeWhole, readSnapshot);
+
+static_assert(taking<const JsonObject&> == 7);
+static_assert(taking<const char*> + taking<const char (&)[3]> + taking<std::string&> + taking<std::string_view> == 0);
 
 } // namespace
 

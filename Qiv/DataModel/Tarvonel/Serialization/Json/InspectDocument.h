@@ -35,6 +35,12 @@ InspectDocument(const Common::Serialization::Json::JsonObject& document);
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT std::vector<Finding>
 InspectDocument(const Common::Serialization::Json::JsonObject& document, DocumentKind kind);
 
+// ParseText parses texts.
+template <typename Text>
+ForText<Text, std::vector<Finding>> InspectDocument(const Text& text) = delete;
+template <typename Text>
+ForText<Text, std::vector<Finding>> InspectDocument(const Text& text, DocumentKind kind) = delete;
+
 /// The finding whose text the reader would fail with; null when there is none.
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT const Finding* FirstFailure(const std::vector<Finding>& findings) noexcept;
 

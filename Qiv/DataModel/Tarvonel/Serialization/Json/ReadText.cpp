@@ -1,6 +1,7 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
 
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/ReadWhole.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Refusal.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
 
 #include <json/reader.h>
@@ -109,13 +110,17 @@ TextResult FailureAt(std::string_view text, const Finding& finding, std::string 
     return {std::move(message), PositionOf(text, finding.offset), finding.pointer};
 }
 
-TextResult Read(std::string_view text, const ReadTarget& target, Details::ReadMode mode)
+TextResult Read(std::string_view text, const ReadTarget& target, Details::ReadMode mode, const ReadOptions& options)
 {
+    if (options.findings != nullptr)
+        options.findings->clear();
     JsonObject json;
     if (auto result = ParseText(text, json); !result)
         return result;
 
     const auto kind = Details::KindOf(target);
+    if (auto refusal = Details::RefusalOf(json, kind, options, text); !refusal)
+        return refusal;
     if (CanEndTheProcess(kind))
     {
         const auto findings = InspectDocument(json, kind);
@@ -161,12 +166,22 @@ TextResult ParseText(std::string_view text, JsonObject& json)
 
 TextResult MergeText(std::string_view text, ReadTarget target)
 {
-    return Read(text, target, Details::ReadMode::Merge);
+    return MergeText(text, target, ReadOptions());
+}
+
+TextResult MergeText(std::string_view text, ReadTarget target, const ReadOptions& options)
+{
+    return Read(text, target, Details::ReadMode::Merge, options);
 }
 
 TextResult ReadSnapshotText(std::string_view text, ReadTarget target)
 {
-    return Read(text, target, Details::ReadMode::Snapshot);
+    return ReadSnapshotText(text, target, ReadOptions());
+}
+
+TextResult ReadSnapshotText(std::string_view text, ReadTarget target, const ReadOptions& options)
+{
+    return Read(text, target, Details::ReadMode::Snapshot, options);
 }
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json

@@ -2,6 +2,7 @@
 
 #include <Qiv/Common/Serialization/Json/JsonObject.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Export.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadOptions.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadTarget.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/TextResult.h>
 
@@ -33,8 +34,14 @@ QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ParseText(std::string_vie
 
 /// Parses a document and merges it into the entity: see `MergeWhole`.
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult MergeText(std::string_view text, ReadTarget target);
+/// The same, unless the options refuse the document.
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult MergeText(std::string_view text, ReadTarget target,
+                                                                 const ReadOptions& options);
 
 /// Parses a document and replaces the entity by it: see `ReadSnapshot`.
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ReadSnapshotText(std::string_view text, ReadTarget target);
+/// The same, unless the options refuse the document.
+QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT TextResult ReadSnapshotText(std::string_view text, ReadTarget target,
+                                                                        const ReadOptions& options);
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json

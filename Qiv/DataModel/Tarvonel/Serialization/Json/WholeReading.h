@@ -5,6 +5,7 @@
 #include <Qiv/DataModel/Tarvonel/MediaIOs/Boundary.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/MediaIO.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Export.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/DocumentKind.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadTarget.h>
 
 #include <memory>
@@ -95,5 +96,11 @@ QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
 MergeWhole(const Common::Serialization::Json::JsonObject& json, ReadTarget target);
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
 ReadSnapshot(const Common::Serialization::Json::JsonObject& json, ReadTarget target);
+
+// MergeText and ReadSnapshotText read texts.
+template <typename Text>
+ForText<Text, Common::Serialization::Result> MergeWhole(const Text& text, ReadTarget target) = delete;
+template <typename Text>
+ForText<Text, Common::Serialization::Result> ReadSnapshot(const Text& text, ReadTarget target) = delete;
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json

@@ -103,13 +103,11 @@ AnyResult ReadAny(const JsonObject& json, const ReadOptions& options)
 
 AnyResult ReadAnyText(std::string_view text, const ReadOptions& options)
 {
+    if (options.findings != nullptr)
+        options.findings->clear();
     JsonObject json;
     if (auto result = ParseText(text, json); !result)
-    {
-        if (options.findings != nullptr)
-            options.findings->clear();
         return result;
-    }
     return Read(json, options, text);
 }
 
