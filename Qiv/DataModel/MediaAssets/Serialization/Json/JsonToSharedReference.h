@@ -27,11 +27,7 @@ template <typename T>
 class QIV_DATAMODEL_MEDIAASSETS_SERIALIZATION_JSON_EXPORT JsonToSharedReference
     : public Common::Serialization::Json::FromJsonConverter<BusinessEntityModel::BaseTypes::SharedReference<T>>
 {
-    using Reference = BusinessEntityModel::BaseTypes::SharedReference<T>;
-    using Base = Common::Serialization::Json::FromJsonConverter<Reference>;
-    using JsonObject = Common::Serialization::Json::JsonObject;
-    using Result = Common::Serialization::Result;
-
+    // No short names here: a subclass would find them before those that it has brought in by `using namespace`.
 public:
     using TargetReader = Common::Serialization::Json::FromJsonConverter<T>;
 
@@ -46,8 +42,9 @@ public:
     {
     }
 
-    using Base::To;
-    Result To(const JsonObject& json, Reference& reference) const override
+    using Common::Serialization::Json::FromJsonConverter<BusinessEntityModel::BaseTypes::SharedReference<T>>::To;
+    Common::Serialization::Result To(const Common::Serialization::Json::JsonObject& json,
+                                     BusinessEntityModel::BaseTypes::SharedReference<T>& reference) const override
     {
         ReferenceForm form;
         if (auto result = ReadReferenceForm(json, typeProperty_, embeddedProperty_, form); !result)
@@ -62,7 +59,7 @@ public:
         auto object = std::make_shared<T>();
         if (auto result = fromJsonConverter_->To(*form.embedded, *object); !result)
             return result;
-        reference = Reference(std::move(object));
+        reference = BusinessEntityModel::BaseTypes::SharedReference<T>(std::move(object));
         return {};
     }
 

@@ -22,11 +22,7 @@ template <typename T>
 class QIV_DATAMODEL_MEDIAASSETS_SERIALIZATION_JSON_EXPORT SharedReferenceToJson<T, false>
     : public Common::Serialization::Json::ToJsonConverter<BusinessEntityModel::BaseTypes::SharedReference<T>>
 {
-    using Reference = BusinessEntityModel::BaseTypes::SharedReference<T>;
-    using Base = Common::Serialization::Json::ToJsonConverter<Reference>;
-    using Stringer = Common::Serialization::Json::Stringer;
-    using Result = Common::Serialization::Result;
-
+    // No short names here: a subclass would find them before those that it has brought in by `using namespace`.
 public:
     using TargetWriter = Common::Serialization::Json::ToJsonConverter<T>;
 
@@ -39,15 +35,17 @@ public:
     {
     }
 
-    using Base::To;
-    Result To(const Reference& reference, Stringer& stringer) const override
+    using Common::Serialization::Json::ToJsonConverter<BusinessEntityModel::BaseTypes::SharedReference<T>>::To;
+    Common::Serialization::Result To(const BusinessEntityModel::BaseTypes::SharedReference<T>& reference,
+                                     Common::Serialization::Json::Stringer& stringer) const override
     {
         const auto object = stringer.ObjectScope();
         return Append(reference, stringer);
     }
 
     /// Writes the members of the reference into an object that is already open.
-    Result Append(const Reference& reference, Stringer& stringer) const
+    Common::Serialization::Result Append(const BusinessEntityModel::BaseTypes::SharedReference<T>& reference,
+                                         Common::Serialization::Json::Stringer& stringer) const
     {
         AppendReferenceMembers(stringer, typeProperty_, reference.Id());
         if (reference.Pointer() == nullptr || jsonConverter_ == nullptr)
