@@ -16,7 +16,7 @@ struct TimeCodeFields;
 
 /// Collects the fields of a time code, checks them and builds it.
 ///
-///     const TimeCode timeCode = TimeCodeBuilder().Date(2016, 3, 21).ClockTime(14, 5, 9, 17).Rate(Rate(25)).Build();
+///     const TimeCode timeCode = TimeCodeBuilder().Date(2016, 3, 21).ClockTime(14, 5, 9, 17).Rate(25).Build();
 ///
 /// A new builder holds 1970-01-01 00:00:00 frame 0 at 50 frames per second, non-drop, without date.
 class QIV_TIMEPOINTS_EXPORT TimeCodeBuilder
@@ -31,6 +31,7 @@ public:
     /// The frame number within the second.
     TimeCodeBuilder& Sample(std::int32_t sample) noexcept { return Set(sample_, sample); }
     TimeCodeBuilder& Rate(TimePoints::Rate rate) noexcept { return Set(rate_, rate); }
+    TimeCodeBuilder& Rate(std::int64_t samplesPerSecond) noexcept { return Rate(TimePoints::Rate(samplesPerSecond)); }
     TimeCodeBuilder& IsDrop(bool isDrop) noexcept { return Set(isDrop_, isDrop); }
     /// Whether the time code has a date. The date fields are checked in either case.
     TimeCodeBuilder& HasDate(bool hasDate) noexcept { return Set(hasDate_, hasDate); }

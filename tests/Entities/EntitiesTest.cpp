@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <sstream>
 #include <vector>
 
 namespace Qiv::DataModel::Tarvonel::MediaIOs
@@ -130,6 +131,9 @@ void Check(const std::vector<std::string>& texts, Enumeration (&convert)(const s
     {
         const auto value = static_cast<Enumeration>(i);
         EXPECT_EQ(ToString(value), texts[i]);
+        std::ostringstream stream;
+        stream << value;
+        EXPECT_EQ(stream.str(), texts[i]);
         EXPECT_EQ(convert(texts[i]), value) << texts[i];
         const std::string buffer = '"' + texts[i] + '"';
         EXPECT_EQ(To<Enumeration>(std::string_view(buffer).substr(1, texts[i].size())), value) << texts[i];

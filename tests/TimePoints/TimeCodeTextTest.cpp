@@ -56,7 +56,7 @@ TimeCode ReadByExpression(const std::string& text)
         builder.Date(number(1), number(2), number(3));
     return builder.ClockTime(number(clock), number(clock + 1), number(clock + 2), number(clock + 4))
         .IsDrop(match[clock + 3] == ";")
-        .Rate(Rate(number(clock + 5)))
+        .Rate(number(clock + 5))
         .Build();
 }
 

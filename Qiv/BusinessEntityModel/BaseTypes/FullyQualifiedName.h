@@ -12,7 +12,7 @@ namespace Qiv::BusinessEntityModel::BaseTypes
 
 /// The dotted name of a metadata profile, for example "qiv.peloperator". Names are ordered and compared byte by byte.
 ///
-/// A name converts to and from its text implicitly, since it is nothing else.
+/// A name is its text and nothing more, so it converts to and from it implicitly.
 class QIV_BUSINESSENTITYMODEL_BASETYPES_EXPORT FullyQualifiedName
 {
 public:

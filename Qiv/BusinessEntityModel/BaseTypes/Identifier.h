@@ -11,7 +11,7 @@ namespace Qiv::BusinessEntityModel::BaseTypes
 
 /// The identity of an entity: any text, compared byte by byte. An empty text means "no identity known".
 ///
-/// An identifier converts to and from its text implicitly, since it is nothing else.
+/// An identifier is its text and nothing more, so it converts to and from it implicitly.
 class QIV_BUSINESSENTITYMODEL_BASETYPES_EXPORT Identifier
 {
 public:

@@ -27,7 +27,7 @@ public:
     bool operator==(const MetadataProfile& other) const { return Equals(other); }
     bool operator!=(const MetadataProfile& other) const { return !Equals(other); }
 
-    /// Assigns what all profiles have in common, which is nothing; the facts and the name of a profile stay.
+    /// Assigns nothing: profiles have no member in common, and the facts and the name of a profile stay.
     MetadataProfile& operator=(const MetadataProfile&) = default;
 
 protected:

@@ -10,7 +10,7 @@
 namespace Qiv::DataModel::MediaAssets
 {
 
-/// A recorded media asset, such as a clip, as far as a channel that has it on air shows it.
+/// A recorded media asset, such as a clip, with what a channel shows of the one on air.
 class QIV_DATAMODEL_MEDIAASSETS_EXPORT MediaAsset
 {
 public:

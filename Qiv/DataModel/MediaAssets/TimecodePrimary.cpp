@@ -1,5 +1,7 @@
 #include <Qiv/DataModel/MediaAssets/TimecodePrimary.h>
 
+#include <ostream>
+
 namespace Qiv::DataModel::MediaAssets
 {
 
@@ -27,6 +29,11 @@ TimecodePrimary ToTimecodePrimary(const std::string& text)
 bool FromText(std::string_view text, TimecodePrimary& value) noexcept
 {
     return BusinessEntityModel::BaseTypes::FindEnumerator(texts, text, TimecodePrimary::NotSet, value);
+}
+
+std::ostream& operator<<(std::ostream& stream, TimecodePrimary value)
+{
+    return stream << ToString(value);
 }
 
 } // namespace Qiv::DataModel::MediaAssets

@@ -4,6 +4,7 @@
 #include <Qiv/DataModel/MediaAssets/Export.h>
 
 #include <cstdint>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,9 @@ QIV_DATAMODEL_MEDIAASSETS_EXPORT TimecodePrimary ToTimecodePrimary(const std::st
 
 /// The same for a text in any buffer; returns whether the text names an enumerator.
 QIV_DATAMODEL_MEDIAASSETS_EXPORT bool FromText(std::string_view text, TimecodePrimary& value) noexcept;
+
+/// Writes `ToString(value)`.
+QIV_DATAMODEL_MEDIAASSETS_EXPORT std::ostream& operator<<(std::ostream& stream, TimecodePrimary value);
 
 using BusinessEntityModel::BaseTypes::To;
 

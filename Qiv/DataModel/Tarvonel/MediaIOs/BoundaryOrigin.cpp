@@ -1,5 +1,7 @@
 #include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryOrigin.h>
 
+#include <ostream>
+
 namespace Qiv::DataModel::Tarvonel::MediaIOs
 {
 
@@ -29,6 +31,11 @@ bool FromText(std::string_view text, BoundaryOrigin& value) noexcept
 {
     return BusinessEntityModel::BaseTypes::FindEnumerator(texts, text,
                                                           BoundaryOrigin::RelativeToCorrespondingMediaBoundary, value);
+}
+
+std::ostream& operator<<(std::ostream& stream, BoundaryOrigin value)
+{
+    return stream << ToString(value);
 }
 
 } // namespace Qiv::DataModel::Tarvonel::MediaIOs

@@ -4,6 +4,7 @@
 #include <Qiv/DataModel/Tarvonel/Export.h>
 
 #include <cstdint>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,9 @@ QIV_DATAMODEL_TARVONEL_EXPORT BoundaryOrigin ToBoundaryOrigin(const std::string&
 
 /// The same for a text in any buffer; returns whether the text names an enumerator.
 QIV_DATAMODEL_TARVONEL_EXPORT bool FromText(std::string_view text, BoundaryOrigin& value) noexcept;
+
+/// Writes `ToString(value)`.
+QIV_DATAMODEL_TARVONEL_EXPORT std::ostream& operator<<(std::ostream& stream, BoundaryOrigin value);
 
 using BusinessEntityModel::BaseTypes::To;
 

@@ -1,5 +1,7 @@
 #include <Qiv/DataModel/Tarvonel/MediaIOs/PlayingLoopMode.h>
 
+#include <ostream>
+
 namespace Qiv::DataModel::Tarvonel::MediaIOs
 {
 
@@ -28,6 +30,11 @@ PlayingLoopMode ToPlayingLoopMode(const std::string& text)
 bool FromText(std::string_view text, PlayingLoopMode& value) noexcept
 {
     return BusinessEntityModel::BaseTypes::FindEnumerator(texts, text, PlayingLoopMode::Unknown, value);
+}
+
+std::ostream& operator<<(std::ostream& stream, PlayingLoopMode value)
+{
+    return stream << ToString(value);
 }
 
 } // namespace Qiv::DataModel::Tarvonel::MediaIOs

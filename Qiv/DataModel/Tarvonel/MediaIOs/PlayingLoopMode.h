@@ -4,6 +4,7 @@
 #include <Qiv/DataModel/Tarvonel/Export.h>
 
 #include <cstdint>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,9 @@ QIV_DATAMODEL_TARVONEL_EXPORT PlayingLoopMode ToPlayingLoopMode(const std::strin
 
 /// The same for a text in any buffer; returns whether the text names an enumerator.
 QIV_DATAMODEL_TARVONEL_EXPORT bool FromText(std::string_view text, PlayingLoopMode& value) noexcept;
+
+/// Writes `ToString(value)`.
+QIV_DATAMODEL_TARVONEL_EXPORT std::ostream& operator<<(std::ostream& stream, PlayingLoopMode value);
 
 using BusinessEntityModel::BaseTypes::To;
 

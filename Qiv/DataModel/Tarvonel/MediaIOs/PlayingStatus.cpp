@@ -1,5 +1,7 @@
 #include <Qiv/DataModel/Tarvonel/MediaIOs/PlayingStatus.h>
 
+#include <ostream>
+
 namespace Qiv::DataModel::Tarvonel::MediaIOs
 {
 
@@ -26,6 +28,11 @@ PlayingStatus ToPlayingStatus(const std::string& text)
 bool FromText(std::string_view text, PlayingStatus& value) noexcept
 {
     return BusinessEntityModel::BaseTypes::FindEnumerator(texts, text, PlayingStatus::Idle, value);
+}
+
+std::ostream& operator<<(std::ostream& stream, PlayingStatus value)
+{
+    return stream << ToString(value);
 }
 
 } // namespace Qiv::DataModel::Tarvonel::MediaIOs

@@ -4,6 +4,7 @@
 #include <Qiv/DataModel/Tarvonel/Export.h>
 
 #include <cstdint>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,9 @@ QIV_DATAMODEL_TARVONEL_EXPORT PlayingStatus ToPlayingStatus(const std::string& t
 
 /// The same for a text in any buffer; returns whether the text names an enumerator.
 QIV_DATAMODEL_TARVONEL_EXPORT bool FromText(std::string_view text, PlayingStatus& value) noexcept;
+
+/// Writes `ToString(value)`.
+QIV_DATAMODEL_TARVONEL_EXPORT std::ostream& operator<<(std::ostream& stream, PlayingStatus value);
 
 using BusinessEntityModel::BaseTypes::To;
 

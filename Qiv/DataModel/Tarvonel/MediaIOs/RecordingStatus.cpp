@@ -1,5 +1,7 @@
 #include <Qiv/DataModel/Tarvonel/MediaIOs/RecordingStatus.h>
 
+#include <ostream>
+
 namespace Qiv::DataModel::Tarvonel::MediaIOs
 {
 
@@ -27,6 +29,11 @@ RecordingStatus ToRecordingStatus(const std::string& text)
 bool FromText(std::string_view text, RecordingStatus& value) noexcept
 {
     return BusinessEntityModel::BaseTypes::FindEnumerator(texts, text, RecordingStatus::Idle, value);
+}
+
+std::ostream& operator<<(std::ostream& stream, RecordingStatus value)
+{
+    return stream << ToString(value);
 }
 
 } // namespace Qiv::DataModel::Tarvonel::MediaIOs

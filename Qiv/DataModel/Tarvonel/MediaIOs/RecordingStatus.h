@@ -4,6 +4,7 @@
 #include <Qiv/DataModel/Tarvonel/Export.h>
 
 #include <cstdint>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,9 @@ QIV_DATAMODEL_TARVONEL_EXPORT RecordingStatus ToRecordingStatus(const std::strin
 
 /// The same for a text in any buffer; returns whether the text names an enumerator.
 QIV_DATAMODEL_TARVONEL_EXPORT bool FromText(std::string_view text, RecordingStatus& value) noexcept;
+
+/// Writes `ToString(value)`.
+QIV_DATAMODEL_TARVONEL_EXPORT std::ostream& operator<<(std::ostream& stream, RecordingStatus value);
 
 using BusinessEntityModel::BaseTypes::To;
 
