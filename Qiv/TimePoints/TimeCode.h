@@ -133,7 +133,7 @@ public:
 
     /// Moves this time code to a date and clock time, which are not checked, at its rate and drop-frame flag.
     ///
-    /// Years before 1900 count as 1900, and months as `DateToDays` says. Whether there is a date stays as it is.
+    /// The date counts as `DateToDays` says. Whether there is a date stays as it is.
     void DateTimeToSample(std::int32_t year, std::int32_t month, std::int32_t day, std::int32_t hour,
                           std::int32_t minute, std::int32_t second, std::int32_t sample) noexcept;
 
