@@ -2,9 +2,11 @@
 #include <Json.h>
 
 #include <Qiv/Common/Serialization/Json/InvalidStringerState.h>
+#include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
 #include <Qiv/Common/Serialization/Json/Stringer.h>
 
 #include <cmath>
+#include <functional>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -165,9 +167,22 @@ struct Pair
         return true;
     }
 
-    void Value(double value);
+    /// Writes a value by `operation`, whose text is then `text`.
+    template <typename Operation>
+    void Value(const std::string& text, Operation operation)
+    {
+        if (Run(model.TakesValue(), operation))
+            model.Value(text);
+    }
+    template <typename Operation>
+    void Key(std::string_view text, Operation operation)
+    {
+        if (Run(model.TakesKey(), operation))
+            model.Key(text);
+    }
+
+    void Number(double value);
     void Scope(bool isObject, const char* key, unsigned ending);
-    void ObjectOf(Input& input);
     void Step(Input& input);
 
     Stringer writer;
@@ -175,7 +190,7 @@ struct Pair
     const std::stringstream* stream = nullptr; // the writer's own, once asked for
 };
 
-void Pair::Value(double value)
+void Pair::Number(double value)
 {
     if (!std::isfinite(value))
     {
@@ -267,199 +282,198 @@ void Pair::Scope(bool isObject, const char* key, unsigned ending)
     CheckText();
 }
 
-void Pair::ObjectOf(Input& input)
+// -- The steps, each an operation with what the input says
+
+void OpenObject(Pair& pair, Input&)
 {
-    const ExactCopy texts[] = {ExactCopy(input.Text()), ExactCopy(input.Text()), ExactCopy(input.Text()),
-                               ExactCopy(input.Text()), ExactCopy(input.Text()), ExactCopy(input.Text())};
-    const std::pair<std::string_view, std::string_view> members[] = {
-        {texts[0].Text(), texts[1].Text()}, {texts[2].Text(), texts[3].Text()}, {texts[4].Text(), texts[5].Text()}};
-    const auto count = input.Byte() % (std::size(members) + 1);
-    const auto write = [&]
-    {
-        switch (count)
-        {
-        case 0:
-            writer.ObjectOf({});
-            break;
-        case 1:
-            writer.ObjectOf({members[0]});
-            break;
-        case 2:
-            writer.ObjectOf({members[0], members[1]});
-            break;
-        default:
-            writer.ObjectOf({members[0], members[1], members[2]});
-        }
-    };
-    if (!Run(model.TakesValue(), write))
+    if (pair.model.Depth() < deepest && pair.Run(pair.model.TakesValue(), [&] { pair.writer.Object(); }))
+        pair.model.Open(true);
+}
+
+void OpenArray(Pair& pair, Input&)
+{
+    if (pair.model.Depth() < deepest && pair.Run(pair.model.TakesValue(), [&] { pair.writer.Array(); }))
+        pair.model.Open(false);
+}
+
+void CloseObject(Pair& pair, Input&)
+{
+    if (pair.Run(pair.model.TakesClose(true), [&] { pair.writer.CloseObject(); }))
+        pair.model.Close();
+}
+
+void CloseArray(Pair& pair, Input&)
+{
+    if (pair.Run(pair.model.TakesClose(false), [&] { pair.writer.CloseArray(); }))
+        pair.model.Close();
+}
+
+void KeyFromCharacters(Pair& pair, Input& input)
+{
+    const std::string text(input.Text());
+    pair.Key(text.c_str(), [&] { pair.writer.Key(text.c_str()); });
+}
+
+void KeyFromString(Pair& pair, Input& input)
+{
+    const std::string text(input.Text());
+    pair.Key(text, [&] { pair.writer.Key(text); });
+}
+
+void KeyFromView(Pair& pair, Input& input)
+{
+    const ExactCopy text(input.Text());
+    pair.Key(text.Text(), [&] { pair.writer.Key(text.Text()); });
+}
+
+void Truth(Pair& pair, Input& input)
+{
+    const bool flag = input.Byte() % 2 != 0;
+    pair.Value(flag ? "true" : "false", [&] { pair.writer.Value(flag); });
+}
+
+void WholeNumber(Pair& pair, Input& input)
+{
+    const auto number = input.Number<std::int32_t>();
+    pair.Value(std::to_string(number), [&] { pair.writer.Value(number); });
+}
+
+void AnyNumber(Pair& pair, Input& input)
+{
+    pair.Number(input.Number<double>());
+}
+
+void SmallFraction(Pair& pair, Input& input)
+{
+    pair.Number(static_cast<double>(input.Number<std::int16_t>()) / 8);
+}
+
+void TextFromCharacters(Pair& pair, Input& input)
+{
+    const std::string text(input.Text());
+    const auto quoted = Quoted(text.c_str());
+    Check(Stringer::ToEscapedString(text.c_str()) == quoted, "escaping", text, quoted);
+    pair.Value(quoted, [&] { pair.writer.Value(text.c_str()); });
+}
+
+void TextFromString(Pair& pair, Input& input)
+{
+    const std::string text(input.Text());
+    pair.Value(Quoted(text), [&] { pair.writer.Value(text); });
+}
+
+void LongTextFromView(Pair& pair, Input& input)
+{
+    const ExactCopy text(input.Text(input.Number<std::uint16_t>() % 2048)); // beyond the first piece of memory
+    pair.Value(Quoted(text.Text()), [&] { pair.writer.Value(text.Text()); });
+}
+
+void Null(Pair& pair, Input&)
+{
+    pair.Value("null", [&] { pair.writer.NullValue(); });
+}
+
+void ScopeWithoutKey(Pair& pair, Input& input)
+{
+    const unsigned flags = input.Byte();
+    pair.Scope((flags & 1U) != 0, nullptr, flags >> 1U);
+}
+
+void ScopeWithKey(Pair& pair, Input& input)
+{
+    const std::string text(input.Text());
+    pair.Scope(text.size() % 2 != 0, text.c_str(), input.Byte());
+}
+
+void AskForStream(Pair& pair, Input&)
+{
+    pair.stream = &pair.writer.Stream();
+    pair.CheckText();
+}
+
+void TakeStream(Pair& pair, Input&)
+{
+    Check(pair.writer.TakeStream()->str() == pair.model.Text(), "the stream handed over has the text",
+          pair.model.Text());
+    pair.Forget();
+}
+
+void Compare(Pair& pair, Input&)
+{
+    pair.CheckText();
+}
+
+void Member(Pair& pair, Input& input)
+{
+    const ExactCopy name(input.Text());
+    const ExactCopy text(input.Text());
+    if (!pair.Run(pair.model.TakesKey(), [&] { pair.writer.Member(name.Text(), text.Text()); }))
         return;
-    model.Open(true);
-    for (std::size_t i = 0; i < count; ++i)
+    pair.model.Key(name.Text());
+    pair.model.Value(Quoted(text.Text()));
+}
+
+void Nanoseconds(Pair& pair, Input& input)
+{
+    const ExactCopy type(input.Text());
+    const auto number = input.Number<std::int64_t>();
+    if (!pair.Run(pair.model.TakesValue(), [&] { AppendNanosecondsObject(pair.writer, type.Text(), number); }))
+        return;
+    pair.model.Open(true);
+    pair.model.Key("_type");
+    pair.model.Value(Quoted(type.Text()));
+    pair.model.Key("value");
+    pair.model.Value('"' + std::to_string(number) + '"');
+    pair.model.Close();
+}
+
+void NullPointer(Pair& pair, Input& input)
+{
+    const char* const null = nullptr;
+    const std::function<void()> operations[] = {
+        [&] { pair.writer.Key(null); }, [&] { pair.writer.Value(null); }, [&] { pair.writer.Member(null, "value"); },
+        [&] { pair.writer.Member("key", null); }, [&] { Stringer::ToEscapedString(null); }};
+    try
     {
-        model.Key(members[i].first);
-        model.Value(Quoted(members[i].second));
+        operations[input.Byte() % std::size(operations)]();
+        Check(false, "a null pointer is no text");
     }
-    model.Close();
+    catch (const std::invalid_argument&)
+    {
+        pair.CheckText();
+    }
 }
 
 void Pair::Step(Input& input)
 {
-    const auto value = [&](auto operation, const auto& text)
-    {
-        if (Run(model.TakesValue(), operation))
-            model.Value(text());
-    };
-    const auto key = [&](std::string_view text, auto operation)
-    {
-        if (Run(model.TakesKey(), operation))
-            model.Key(text);
-    };
-
-    switch (input.Byte() % 26)
-    {
-    case 0:
-    case 1:
-        if (model.Depth() < deepest && Run(model.TakesValue(), [&] { writer.Object(); }))
-            model.Open(true);
-        break;
-    case 2:
-    case 3:
-        if (model.Depth() < deepest && Run(model.TakesValue(), [&] { writer.Array(); }))
-            model.Open(false);
-        break;
-    case 4:
-        if (Run(model.TakesClose(true), [&] { writer.CloseObject(); }))
-            model.Close();
-        break;
-    case 5:
-        if (Run(model.TakesClose(false), [&] { writer.CloseArray(); }))
-            model.Close();
-        break;
-    case 6:
-    case 7:
-    {
-        const std::string text(input.Text());
-        key(text.c_str(), [&] { writer.Key(text.c_str()); });
-        break;
-    }
-    case 8:
-    {
-        const std::string text(input.Text());
-        key(text, [&] { writer.Key(text); });
-        break;
-    }
-    case 9:
-    {
-        const ExactCopy text(input.Text());
-        key(text.Text(), [&] { writer.Key(text.Text()); });
-        break;
-    }
-    case 10:
-    {
-        const bool flag = input.Byte() % 2 != 0;
-        value([&] { writer.Value(flag); }, [&] { return flag ? "true" : "false"; });
-        break;
-    }
-    case 11:
-    {
-        const auto number = input.Number<std::int32_t>();
-        value([&] { writer.Value(number); }, [&] { return std::to_string(number); });
-        break;
-    }
-    case 12:
-        Value(input.Number<double>());
-        break;
-    case 13:
-        Value(static_cast<double>(input.Number<std::int16_t>()) / 8);
-        break;
-    case 14:
-    {
-        const std::string text(input.Text());
-        const auto quoted = Quoted(text.c_str());
-        Check(Stringer::ToEscapedString(text.c_str()) == quoted, "escaping", text, quoted);
-        value([&] { writer.Value(text.c_str()); }, [&] { return quoted; });
-        break;
-    }
-    case 15:
-    {
-        const std::string text(input.Text());
-        value([&] { writer.Value(text); }, [&] { return Quoted(text); });
-        break;
-    }
-    case 16:
-    {
-        const ExactCopy text(input.Text(input.Number<std::uint16_t>() % 2048)); // beyond the first piece of memory
-        value([&] { writer.Value(text.Text()); }, [&] { return Quoted(text.Text()); });
-        break;
-    }
-    case 17:
-        value([&] { writer.NullValue(); }, [] { return "null"; });
-        break;
-    case 18:
-    {
-        const unsigned flags = input.Byte();
-        Scope((flags & 1U) != 0, nullptr, flags >> 1U);
-        break;
-    }
-    case 19:
-    {
-        const std::string text(input.Text());
-        Scope(text.size() % 2 != 0, text.c_str(), input.Byte());
-        break;
-    }
-    case 20:
-        stream = &writer.Stream();
-        CheckText();
-        break;
-    case 21:
-        Check(writer.TakeStream()->str() == model.Text(), "the stream handed over has the text", model.Text());
-        Forget();
-        break;
-    case 22:
-        CheckText();
-        break;
-    case 23:
-    {
-        const ExactCopy name(input.Text());
-        const ExactCopy text(input.Text());
-        if (Run(model.TakesKey(), [&] { writer.Member(name.Text(), text.Text()); }))
-        {
-            model.Key(name.Text());
-            model.Value(Quoted(text.Text()));
-        }
-        break;
-    }
-    case 24:
-        ObjectOf(input);
-        break;
-    default:
-        try
-        {
-            const char* const null = nullptr;
-            switch (input.Byte() % 5)
-            {
-            case 0:
-                writer.Key(null);
-                break;
-            case 1:
-                writer.Value(null);
-                break;
-            case 2:
-                writer.Member(null, "value");
-                break;
-            case 3:
-                writer.Member("key", null);
-                break;
-            default:
-                Stringer::ToEscapedString(null);
-            }
-            Check(false, "a null pointer is no text");
-        }
-        catch (const std::invalid_argument&)
-        {
-            CheckText();
-        }
-    }
+    // The kept inputs name a step by its place. What leads on stands twice.
+    static constexpr void (*steps[])(Pair&, Input&) = {OpenObject,
+                                                       OpenObject,
+                                                       OpenArray,
+                                                       OpenArray,
+                                                       CloseObject,
+                                                       CloseArray,
+                                                       KeyFromCharacters,
+                                                       KeyFromCharacters,
+                                                       KeyFromString,
+                                                       KeyFromView,
+                                                       Truth,
+                                                       WholeNumber,
+                                                       AnyNumber,
+                                                       SmallFraction,
+                                                       TextFromCharacters,
+                                                       TextFromString,
+                                                       LongTextFromView,
+                                                       Null,
+                                                       ScopeWithoutKey,
+                                                       ScopeWithKey,
+                                                       AskForStream,
+                                                       TakeStream,
+                                                       Compare,
+                                                       Member,
+                                                       Nanoseconds,
+                                                       NullPointer};
+    steps[input.Byte() % std::size(steps)](*this, input);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <Qiv/TimePoints/Details/Hash.h>
 #include <Qiv/TimePoints/Details/Text.h>
 
+#include <limits>
 #include <ostream>
 
 namespace Qiv::TimePoints
@@ -10,7 +11,7 @@ namespace Qiv::TimePoints
 
 std::string Rate::ToString() const
 {
-    char buffer[41];
+    char buffer[2 * (std::numeric_limits<std::int64_t>::digits10 + 2) + 1]; // two numbers and a slash
     char* end = Details::WriteDecimal(numerator_, buffer);
     *end++ = '/';
     return std::string(buffer, Details::WriteDecimal(denominator_, end));

@@ -1,4 +1,5 @@
 #include <Qiv/Common/Serialization/Json/InvalidStringerState.h>
+#include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
 #include <Qiv/Common/Serialization/Json/Stringer.h>
 
 #include "ThrownText.h"
@@ -15,6 +16,7 @@
 #include <random>
 #include <sstream>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace Qiv::Common::Serialization::Json
@@ -116,20 +118,29 @@ void WriteSample(Stringer& json)
 {
     json.Object().Key("a").Value(true).Key(std::string("b\0", 2)).Array();
     json.Value(INT32_MIN).Value(std::int32_t{0}).Value(false).NullValue().Value(0.5);
-    json.Value("c\0d").Object().CloseObject().ObjectOf({});
-    json.Array().CloseArray().ObjectOf({{"", "x"}, {"a\xFF", std::string_view("\0", 1)}}).ObjectOf({{"k", ""}});
-    json.CloseArray().Key("").Object().Key("e").Value(std::string("\0", 1)).CloseObject().Key("f").ObjectOf({});
-    json.Key("g").ObjectOf({{"16 bytes and more", "k"}}).CloseObject();
+    json.Value("c\0d").Object().CloseObject().Array().CloseArray();
+    json.Object().Member("", "x").Member("a\xFF", std::string_view("\0", 1)).CloseObject();
+    AppendNanosecondsObject(json, "16 bytes and more", INT64_MIN);
+    AppendNanosecondsObject(json, "\xFF", 0);
+    json.CloseArray().Key("").Object().Key("e").Value(std::string("\0", 1)).CloseObject().Key("f");
+    AppendNanosecondsObject(json, "", INT64_MAX);
+    json.CloseObject();
 }
 
-const char* const compactSample = R"({"a":true,"b\u0000":[-2147483648,0,false,null,0.5,"c",{},{},[],{"":"x","a)"
+const char* const compactSample = R"({"a":true,"b\u0000":[-2147483648,0,false,null,0.5,"c",{},[],{"":"x","a)"
                                   "\xEF\xBF\xBD"
-                                  R"(":"\u0000"},{"k":""}],"":{"e":"\u0000"},"f":{},"g":{"16 bytes and more":"k"}})";
+                                  R"(":"\u0000"},{"_type":"16 bytes and more","value":"-9223372036854775808"},)"
+                                  R"({"_type":")"
+                                  "\xEF\xBF\xBD"
+                                  R"(","value":"0"}],"":{"e":"\u0000"},)"
+                                  R"("f":{"_type":"","value":"9223372036854775807"}})";
 const char* const prettySample =
     "{\n  \"a\": true,\n  \"b\\u0000\": [\n    -2147483648,\n    0,\n    false,\n    null,\n    0.5,\n    \"c\",\n"
-    "    {},\n    {},\n    [],\n    {\n      \"\": \"x\",\n      \"a\xEF\xBF\xBD\": \"\\u0000\"\n    },\n"
-    "    {\n      \"k\": \"\"\n    }\n  ],\n  \"\": {\n    \"e\": \"\\u0000\"\n  },\n  \"f\": {},\n"
-    "  \"g\": {\n    \"16 bytes and more\": \"k\"\n  }\n}";
+    "    {},\n    [],\n    {\n      \"\": \"x\",\n      \"a\xEF\xBF\xBD\": \"\\u0000\"\n    },\n"
+    "    {\n      \"_type\": \"16 bytes and more\",\n      \"value\": \"-9223372036854775808\"\n    },\n"
+    "    {\n      \"_type\": \"\xEF\xBF\xBD\",\n      \"value\": \"0\"\n    }\n  ],\n"
+    "  \"\": {\n    \"e\": \"\\u0000\"\n  },\n"
+    "  \"f\": {\n    \"_type\": \"\",\n    \"value\": \"9223372036854775807\"\n  }\n}";
 
 TEST(Stringer, WritesCompactAndPretty)
 {
@@ -143,6 +154,19 @@ TEST(Stringer, WritesCompactAndPretty)
     // Texts of their own follow each other at the top level.
     EXPECT_EQ(Stringer().Object().CloseObject().Value(1).Array().CloseArray().ToString(), "{}1[]");
     EXPECT_EQ(Stringer().ToString(), "");
+}
+
+template <typename T, typename = void>
+constexpr bool takes = false;
+template <typename T>
+constexpr bool takes<T, std::void_t<decltype(std::declval<Stringer&>().Value(std::declval<T>()))>> = true;
+
+TEST(Stringer, TakesWholeNumbersOf32BitsOnly)
+{
+    static_assert(takes<std::int32_t> && takes<std::int16_t> && takes<bool> && takes<float> && takes<double>);
+    static_assert(!takes<long> && !takes<long long> && !takes<std::size_t> && !takes<unsigned>);
+    static_assert(!takes<std::int64_t> && !takes<std::uint64_t>);
+    EXPECT_EQ(Stringer().Value(std::int16_t{-1}).ToString(), "-1");
 }
 
 TEST(Stringer, WritesTheShortestNumberThatReadsBack)
@@ -184,7 +208,9 @@ TEST(Stringer, WritesOrRefusesEachCallAsTheOpenLevelsDemand)
                                         {']', {"CloseArray", "]", [](Stringer& json) { json.CloseArray(); }}},
                                         {'{', {"Object", "{", [](Stringer& json) { json.Object(); }}},
                                         {'[', {"Array", "[", [](Stringer& json) { json.Array(); }}},
-                                        {'o', {"ObjectOf", "{}", [](Stringer& json) { json.ObjectOf({}); }}},
+                                        {'o',
+                                         {"Object", "{\"_type\":\"T\",\"value\":\"-5\"}",
+                                          [](Stringer& json) { AppendNanosecondsObject(json, "T", -5); }}},
                                         {'x', {"Value", "\"x\"", [](Stringer& json) { json.Value("x"); }}},
                                         {'t', {"Value", "true", [](Stringer& json) { json.Value(true); }}},
                                         {'1', {"Value", "1", [](Stringer& json) { json.Value(1); }}},
@@ -260,8 +286,13 @@ TEST(Stringer, SharesItsStreamOnlyWhenAsked)
     EXPECT_EQ(stream.str(), "[1");
     own.Value(2);
     EXPECT_EQ(stream.str(), "[1,2");
-    stream << " ";
-    EXPECT_EQ(own.CloseArray().ToString(), "[1,2 ]");
+    std::string word;
+    stream >> word; // to the end, after which it refuses to be read and written
+    EXPECT_EQ(Stringer(own).CloseArray().ToString(), "[1,2]");
+    EXPECT_EQ(own.CloseArray().ToString(), "[1,2]");
+    stream.clear();
+    stream << '\n';
+    EXPECT_EQ(own.Value(3).ToString(), "[1,2]\n3");
     EXPECT_EQ(Stringer(std::unique_ptr<std::stringstream>()).Value(1).TakeStream()->str(), "1");
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
-// The fields of a time code to be, their checks and the time code they make. The builder shows this to the world; the
-// parser uses it at once, so that a text becomes a time code without leaving the registers.
+// The fields of which a time code is made, their checks, and making it: what the builder and the parser share.
 
 #include <Qiv/TimePoints/CalendarTools.h>
 #include <Qiv/TimePoints/Details/SampleArithmetic.h>
@@ -47,7 +46,7 @@ constexpr bool IsWithin(std::int32_t value, std::int32_t first, std::int32_t las
 }
 
 /// The check that the fields do not pass, or `None`. The date is checked also when there is none.
-[[gnu::always_inline]] constexpr Check FirstFailedCheck(const TimeCodeFields& fields) noexcept
+constexpr Check FirstFailedCheck(const TimeCodeFields& fields) noexcept
 {
     const auto& [date, clock, rate, isDrop, hasDate] = fields;
     const std::int64_t numerator = rate.Numerator();
@@ -79,10 +78,11 @@ constexpr bool IsWithin(std::int32_t value, std::int32_t first, std::int32_t las
 void ThrowIfNotValid(const TimeCodeFields& fields);
 
 /// The time code of fields that pass the checks.
-[[gnu::always_inline]] constexpr TimeCode Build(const TimeCodeFields& fields) noexcept
+constexpr TimeCode Build(const TimeCodeFields& fields) noexcept
 {
     const auto& [date, clock, rate, isDrop, hasDate] = fields;
-    const std::int64_t days = hasDate ? DaysTo(date.year, date.month, date.day) : 25567; // 1970-01-01
+    constexpr std::int64_t daysWithoutDate = DaysTo(1970, 1, 1);
+    const std::int64_t days = hasDate ? DaysTo(date.year, date.month, date.day) : daysWithoutDate;
     return TimeCode(TotalSampleAt(rate.Numerator(), isDrop, days, clock), isDrop, rate, hasDate);
 }
 

@@ -20,6 +20,9 @@ namespace
 constexpr std::size_t wordSize = sizeof(std::uint64_t);
 constexpr std::uint64_t everyByte = 0x0101010101010101U;
 
+// Texts are copied a word or a block at a time and looked through on the way: byte by byte a recorder takes 74 % more
+// instructions to write (23 % with -m32).
+
 // A word whose lowest high bit marks the first of its bytes that can't be copied as it is: a control character, a
 // quote, a backslash or a byte of a non-ASCII character; 0 when there is none. Bits above the lowest one may be false
 // alarms. The first byte of the text is the lowest byte of the word.
@@ -50,7 +53,7 @@ T Load(const char* text) noexcept
     return value;
 }
 
-#ifdef __SSE2__
+#ifdef __SSE2__ // without it a recorder takes 13 % more instructions to write
 using Block [[gnu::vector_size(16)]] = signed char;
 
 // The same for a block: bytes that are not zero stand for those to handle. Non-ASCII bytes are negative.
@@ -98,7 +101,7 @@ inline bool CopyPlain(char* to, const char* from, std::size_t size) noexcept
 #endif
     if (size >= wordSize)
         return CopyPlainUnits<std::uint64_t>(to, from, size);
-    if (size >= wordSize / 2)
+    if (size >= wordSize / 2) // without this case 9 % more, but 1 % fewer with -m32
     {
         const auto last = size - wordSize / 2;
         const auto firstHalf = Load<std::uint32_t>(from);
@@ -117,7 +120,7 @@ inline bool CopyPlain(char* to, const char* from, std::size_t size) noexcept
 }
 
 // Copies the bytes in front of the first one that needs an escape, and garbage behind them up to a word; returns how
-// many there were.
+// many there were. Byte by byte a long text with few escapes takes 3.5 times the instructions (twice with -m32).
 std::size_t CopyUpToEscape(char* to, const char* from, std::size_t size) noexcept
 {
     std::size_t copied = 0;
@@ -165,7 +168,8 @@ char* WriteEscape(char* to, unsigned char character) noexcept
     }
 }
 
-// The usual case of most alphabets, told at once: U+0080 to U+07FF.
+// The usual case of most alphabets, told at once: U+0080 to U+07FF. Without it a recorder with a name in Cyrillic takes
+// 2.8 % more instructions to write (1.9 % with -m32).
 bool IsTwoByteSequence(const char* text) noexcept
 {
     const auto lead = static_cast<unsigned char>(text[0]);
@@ -341,7 +345,9 @@ Stringer::Stringer(const Stringer& other)
     if (other.stream_ == nullptr)
         return;
     stream_ = std::make_unique<std::stringstream>(other.stream_->str());
-    stream_->seekp(other.stream_->tellp());
+    // The buffers' positions: a stream that has been read to its end does not tell.
+    stream_->rdbuf()->pubseekpos(other.stream_->rdbuf()->pubseekoff(0, std::ios_base::cur, std::ios_base::out),
+                                 std::ios_base::out);
 }
 
 Stringer& Stringer::operator=(const Stringer& other)
@@ -400,7 +406,10 @@ void Stringer::WriteThrough()
 {
     if (stream_ == nullptr)
         stream_ = std::make_unique<std::stringstream>();
-    stream_->write(pending_.Text().data(), static_cast<std::streamsize>(pending_.Text().size()));
+    // To the buffer itself: a stream that has been read to its end refuses to write.
+    const auto size = static_cast<std::streamsize>(pending_.Text().size());
+    if (stream_->rdbuf()->sputn(pending_.Text().data(), size) != size)
+        stream_->setstate(std::ios_base::badbit);
     pending_.Clear();
 }
 
@@ -593,27 +602,26 @@ Stringer& Stringer::Member(std::string_view key, std::string_view value)
     return *this;
 }
 
-Stringer& Stringer::ObjectOf(std::initializer_list<std::pair<std::string_view, std::string_view>> members)
+// An object in one go: with its parts one by one a recorder takes 6 % more instructions to write (4 % with -m32).
+void Stringer::ObjectOfTwo(const TextMember& first, const TextMember& second)
 {
-    ThrowIfInvalidState("ObjectOf");
-    const auto indentation = prettyPrint_ ? 2 + 2 * Depth() : 0;
-    auto* end = BeginItem(1);
+    ThrowIfInvalidState("Object");
+    const auto layout = prettyPrint_ ? 3 + 2 * Depth() : 0; // a new line, and the indentation of a member
+    auto* end = BeginItem(1 + layout + TextBuffer::QuotedRoom(first.first));
     *end++ = '{';
-    for (const auto& [key, value] : members)
-    {
-        end = pending_.Reserve(end, TextBuffer::QuotedRoom(key) + indentation + 2);
-        if (end[-1] != '{')
-            *end++ = ',';
-        if (prettyPrint_)
-            end = NewLine(end, Depth() + 1);
-        end = ComposeMember(end, key, value);
-    }
-    end = pending_.Reserve(end, indentation + 2);
-    if (prettyPrint_ && members.size() != 0)
+    if (prettyPrint_)
+        end = NewLine(end, Depth() + 1);
+    end = ComposeMember(end, first.first, first.second);
+    end = pending_.Reserve(end, 1 + layout + TextBuffer::QuotedRoom(second.first));
+    *end++ = ',';
+    if (prettyPrint_)
+        end = NewLine(end, Depth() + 1);
+    end = ComposeMember(end, second.first, second.second);
+    end = pending_.Reserve(end, 1 + layout);
+    if (prettyPrint_)
         end = NewLine(end, Depth());
     *end++ = '}';
     EndItem(end, false);
-    return *this;
 }
 
 Stringer& Stringer::NullValue()

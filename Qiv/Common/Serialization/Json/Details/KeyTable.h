@@ -79,8 +79,8 @@ private:
         return leftWord == rightWord;
     }
 
-    // Whether a key and a text of its size are equal. Not by `std::memcmp`, which takes more instructions for texts as
-    // short as keys are. The last word overlaps the one before.
+    // Whether a key and a text of its size are equal; the last word overlaps the one before. With `==` a recorder takes
+    // 1.8 % more instructions to read (2.8 % with -m32).
     static bool AreEqual(const char* left, const char* right, std::size_t size) noexcept
     {
         using Short = std::uint32_t;
