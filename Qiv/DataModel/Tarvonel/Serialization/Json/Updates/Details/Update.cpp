@@ -1,0 +1,44 @@
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Updates/Details/Update.h>
+
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Utf8.h>
+
+#include <string>
+#include <utility>
+
+namespace Qiv::DataModel::Tarvonel::Serialization::Json::Updates::Details
+{
+
+void Update::Omit(std::initializer_list<std::string_view> path, std::string_view sentence)
+{
+    std::string pointer;
+    for (const auto key : path)
+    {
+        pointer += '/';
+        for (const char character : key)
+        {
+            if (character == '~')
+                pointer += "~0";
+            else if (character == '/')
+                pointer += "~1";
+            else
+                pointer += character;
+        }
+    }
+    omissions.push_back({std::move(pointer), std::string(sentence)});
+}
+
+const char* ObstacleOfText(std::string_view text)
+{
+    while (!text.empty())
+    {
+        if (text.front() == '\0')
+            return "the text has a NUL, at which writers cut it";
+        const auto size = Json::Details::FirstCharacter(text).size;
+        if (size == 0)
+            return "the text is not well-formed UTF-8, so that writers change it";
+        text.remove_prefix(size);
+    }
+    return nullptr;
+}
+
+} // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Updates::Details
