@@ -138,6 +138,16 @@ class Tool(unittest.TestCase):
                     self.assertEqual(out.count(NODE), 2 if command == "convert" else 0)
                     self.assertRegex(error, r"\A(<stdin>:2:\d+: [^\n]*\n)?(tarvonel-json: 1 member [^\n]*\n)?\Z")
 
+    def test_MergesLinesInTheMemoryOfTheState(self):
+        merge = lambda count, kilobytes: run(
+            "merge", "--ndjson", "--quiet", "-", preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (kilobytes << 10,) * 2),
+            text="".join(f'{{"_type":"MediaInput","id":"c{i % 10}","name":"{i}"}}\n' for i in range(count)))
+        suffices = [k for k in range(1000, 30000, 500) if merge(10, k)[0] == 0]
+        if not suffices:
+            self.skipTest("sanitizers need all addresses")
+        status, out, error = merge(100000, suffices[0] + 2000) # of 5 MB
+        self.assertEqual((status, out.count("\n"), error), (0, 10, ""))
+
     def test_IsAGoodFilter(self):
         with subprocess.Popen([TOOL, "convert", "--ndjson"], stdin=subprocess.PIPE, stdout=subprocess.PIPE) as process:
             process.stdin.write(NODE.encode() + b"\n")  # what was read is written before more is waited for

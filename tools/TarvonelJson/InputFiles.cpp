@@ -80,7 +80,7 @@ ExitStatus InputFiles::ForEachDocument(Output& output, const Handler& handle) co
 {
     const auto read = [&](const std::string& name)
     {
-        return areLines_ ? ReadLines(name, output, handle)
+        return areLines_ ? ReadLines(name, maximumBytes_, output, handle)
                          : ReadWhole(
                                name, maximumBytes_, [&output] { output.Flush(); }, handle);
     };
@@ -109,7 +109,8 @@ catch (const InputError& error)
     return ReportUnreadable(name, error);
 }
 
-ExitStatus InputFiles::ReadLines(const std::string& name, Output& output, const Handler& handle) const
+ExitStatus InputFiles::ReadLines(const std::string& name, std::uint64_t maximumBytes, Output& output,
+                                 const Handler& handle)
 try
 {
     Input input(name, [&output] { output.Flush(); });
@@ -118,12 +119,12 @@ try
     source.file = Input::DisplayName(name);
     source.isLine = true;
     auto status = ExitStatus::Success;
-    for (auto part = input.ReadLine(text, maximumBytes_); part != Input::Part::None;
-         part = input.ReadLine(text, maximumBytes_), ++source.firstLine)
+    for (auto part = input.ReadLine(text, maximumBytes); part != Input::Part::None;
+         part = input.ReadLine(text, maximumBytes), ++source.firstLine)
     {
         source.text = text;
         if (part != Input::Part::Complete || text.find_first_not_of(" \t") != std::string::npos)
-            status = std::max(status, HandlePart(part, source, maximumBytes_, handle));
+            status = std::max(status, HandlePart(part, source, maximumBytes, handle));
     }
     return status;
 }

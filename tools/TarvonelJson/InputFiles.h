@@ -38,9 +38,11 @@ public:
     static ExitStatus ReadWhole(const std::string& name, std::uint64_t maximumBytes,
                                 const std::function<void()>& beforeReading, const Handler& handle);
 
-private:
-    ExitStatus ReadLines(const std::string& name, Output& output, const Handler& handle) const;
+    /// Handles each line of a file that is not empty as a document.
+    static ExitStatus ReadLines(const std::string& name, std::uint64_t maximumBytes, Output& output,
+                                const Handler& handle);
 
+private:
     std::vector<std::string> names_;
     std::uint64_t maximumBytes_ = defaultMaximumBytes;
     bool areLines_ = false;

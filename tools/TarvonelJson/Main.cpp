@@ -1,5 +1,6 @@
 #include <TarvonelJson/CheckCommand.h>
 #include <TarvonelJson/ConvertCommand.h>
+#include <TarvonelJson/DiffCommand.h>
 #include <TarvonelJson/HelpCommand.h>
 #include <TarvonelJson/ManPage.h>
 #include <TarvonelJson/MergeCommand.h>
@@ -35,7 +36,8 @@ the name of the program. Colours are used on terminals unless NO_COLOR is set.
 
 Exit status of all commands:
   0  all is well
-  1  a document is refused, or check has findings; a text is no time code
+  1  a document is refused, check has findings, or diff a difference; a text is no
+     time code
   2  wrong usage, something that can't be read or written, or no JSON
 
 tarvonel-json COMMAND --help tells more, with examples.)");
@@ -47,6 +49,7 @@ tarvonel-json COMMAND --help tells more, with examples.)");
     const ConvertCommand convert(program);
     const CheckCommand check(program);
     const MergeCommand merge(program);
+    const DiffCommand diff(program);
     const TimecodeCommand timecode(program);
     const HelpCommand help(program);
 
@@ -75,7 +78,7 @@ tarvonel-json COMMAND --help tells more, with examples.)");
     }
     auto status = ExitStatus::Success;
     for (const Command* const command :
-         std::initializer_list<const Command*>{&convert, &check, &merge, &timecode, &help})
+         std::initializer_list<const Command*>{&convert, &check, &merge, &diff, &timecode, &help})
     {
         if (command->IsChosen())
             status = command->Run(output);

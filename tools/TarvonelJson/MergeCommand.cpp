@@ -1,5 +1,6 @@
 #include <TarvonelJson/MergeCommand.h>
 
+#include <TarvonelJson/MergeLines.h>
 #include <TarvonelJson/Messages.h>
 #include <TarvonelJson/Printable.h>
 #include <TarvonelJson/Refusal.h>
@@ -47,20 +48,31 @@ MergeCommand::MergeCommand(CLI::App& program)
               R"(Members that an update does not have keep their values. All updates are applied,
 in the order given, or nothing is written.
 
+With --ndjson all lines of all files are applied, in order, to channels and nodes by
+their identifiers, and the state that results is written, a line each. A line that
+is refused is told and changes nothing; a summary follows on standard error. The
+memory needed depends on the state, not on the number of lines.
+
 Examples:
   tarvonel-json merge recorder.json recorder-update.json
+  tarvonel-json merge --ndjson server.ndjson updates.ndjson
   receive-update | tarvonel-json merge --pretty player.json -)")
 {
     Arguments().add_option("BASE", base_, "The channel; - is standard input")->required()->type_name("");
-    Arguments().add_option("UPDATE", updates_, "Documents to apply to it, of the same kind")->required()->type_name("");
-    Arguments().add_flag("--any-id", takesAnyIdentifier_, "Take also an update with another identifier");
+    Arguments().add_option("UPDATE", updates_, "Documents to apply to it, of the same kind")->type_name("");
+    Arguments().add_flag("--ndjson", areLines_, "Each line of any file is a document of a channel or a node");
+    Arguments()
+        .add_flag("--any-id", takesAnyIdentifier_, "Take also an update with another identifier")
+        ->excludes("--ndjson");
     InputFiles::AddMaximumBytesTo(Arguments(), maximumBytes_);
-    Arguments().add_flag("--pretty", isPretty_, "Indent the result instead of writing one line");
+    Arguments().add_flag("--pretty", isPretty_, "Indent the result instead of writing one line")->excludes("--ndjson");
     Arguments().add_flag("--strict", isStrict_, "Refuse documents of which anything would be lost");
     Arguments().add_flag("-q,--quiet", isQuiet_, "Do not tell what was skipped or replaced, nor look for it");
     Arguments().callback(
         [this]
         {
+            if (updates_.empty() && !areLines_)
+                throw CLI::RequiredError("UPDATE");
             auto names = updates_;
             names.push_back(base_);
             InputFiles::RequireOneStandardInput(names);
@@ -69,10 +81,13 @@ Examples:
 
 ExitStatus MergeCommand::Run(Output& output) const
 {
-    Channel channel;
-    Losses losses;
     auto names = updates_;
     names.insert(names.begin(), base_);
+    if (areLines_)
+        return MergeLines({names, maximumBytes_, isQuiet_, isStrict_}, output);
+
+    Channel channel;
+    Losses losses;
     for (const auto& name : names)
     {
         const auto status = InputFiles::ReadWhole(

@@ -34,6 +34,7 @@ private:
     bool isQuiet_ = false;
     bool isStrict_ = false;
     bool takesAnyIdentifier_ = false;
+    bool areLines_ = false;
 };
 
 } // namespace TarvonelJson
