@@ -1,5 +1,9 @@
-# Runs COMMAND (a list) and compares its exit status, 0 or STATUS, and all that it writes with the file EXPECTED.
-execute_process(COMMAND ${COMMAND} OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE status TIMEOUT 60)
+# Runs COMMAND (a list), with the file INPUT as standard input if there is one, and compares its exit status, 0 or
+# STATUS, and all that it writes with the file EXPECTED.
+if(INPUT)
+    set(input INPUT_FILE ${INPUT})
+endif()
+execute_process(COMMAND ${COMMAND} ${input} OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE status TIMEOUT 60)
 file(READ ${EXPECTED} expected)
 if(NOT STATUS)
     set(STATUS 0)
