@@ -76,8 +76,10 @@ class Tool(unittest.TestCase):
     def test_LetsNothingOfADocumentSteerTheTerminal(self):
         bad = "\x1b[2J\x07\x7f\u0085\u009b\u061c\u200f\u2028\u2029\u202e\u2069\ufeff\nFAKE.json:1:1: FATAL "
         key = json.dumps(bad * 200)
-        documents = [f'{{"_type":{key}}}', f'{{"_type":"Node","id":"n1",{key}:1}}', '{"_type":"\x1b"}', f'{{{key}:1,{key}:2}}',
-                     f'{{"_type":"MediaInput","lastTimePoint":{{"_type":{key}}}}}', '{"_type":"MediaInput","id":"\udcff"}']
+        documents = [f'{{"_type":{key}}}', f'{{"_type":"Node","id":"n1",{key}:1}}', f'{{{key}:1,{key}:2}}',
+                     f'{{"_type":"MediaInput","lastTimePoint":{{"_type":{key}}}}}', '{"_type":"\x1b"}',
+                     '{"_type":"MediaInput","id":"\udcff"}']
+        line_of_text = r"\A\S[^\x00-\x1f\x7f-\x9f\u061c\u200f\u2028\u2029\u202e\u2069\ufeff]*\n\Z"
         with tempfile.TemporaryDirectory() as folder:
             name = (folder + "/\x1b]0;" + bad.replace("/", "")).encode() + b"\xff\xc0\xaf"
             for document in documents:
@@ -86,11 +88,12 @@ class Tool(unittest.TestCase):
                 for command in ("check", "convert", "merge"):
                     status, out, error = run(command, name, *[name] * (command == "merge"))
                     for line in (out + error).splitlines(keepends=True):
-                        self.assertRegex(line, r"\A\S[^\x00-\x1f\x7f-\x9f\u061c\u200f\u2028\u2029\u202e\u2069\ufeff]*\n\Z")
+                        self.assertRegex(line, line_of_text)
                         self.assertLessEqual(len(line.encode()), 1000)
                         self.assertNotRegex(line, "^FAKE")
-            self.assertEqual(json.loads(run("check", "--output", "json", text=documents[1])[1])[0]["pointer"], "/" + bad * 200)
-        for arguments in [[bad], ["convert", "-" + bad], ["convert", bad], ["check", "--output", bad], ["timecode", bad]]:
+            findings = json.loads(run("check", "--output", "json", text=documents[1])[1])
+            self.assertEqual(findings[0]["pointer"], "/" + bad * 200)
+        for arguments in [[bad], ["convert", "-" + bad], ["convert", bad], ["check", "--fail-on", bad], ["timecode", bad]]:
             error = run(*arguments)[2]
             self.assertRegex(error, r"\A(tarvonel-json: [ -~]+\n)+\Z")
         # Escapes keep the meaning of what is written.
@@ -100,7 +103,8 @@ class Tool(unittest.TestCase):
 
     def test_PrintsFindingsAsTheSchemaSays(self):
         schema = jsonschema.Draft7Validator(json.loads((ROOT / "schema/findings.schema.json").read_text()))
-        documents = ["", '{"_type":"node"}', '{"_type":"MediaOutput","userTimecodeOnAir":"10:00:00:00@25"}', '{"_type":"Node","a/~b":1}', '{"_type":"BoundaryRelative","origin":"Absolute"}',
+        documents = ["", '{"_type":"node"}', '{"_type":"MediaOutput","userTimecodeOnAir":"10:00:00:00@25"}',
+                     '{"_type":"Node","a/~b":1}', '{"_type":"BoundaryRelative","origin":"Absolute"}',
                      '{"_type":"MediaOutput","locationOnAir":1,"primaryTimecodeType":"x",'
                      '"mediaAssetOnAir":{"mediaAsset":{},"id":"a"},"name":7,"currentTimePointOnAir":{}}',
                      '{"_type":"Node","id":"n1"' + "".join(f',"{i}":1' for i in range(1001)) + "}"]
@@ -124,16 +128,18 @@ class Tool(unittest.TestCase):
         self.assertEqual((len(lines), lines[1000]), (1001, "<stdin>:2001:1: and 39000 more, which --all prints"))
 
     def test_GoesOnAfterALineThatMemoryDoesNotSufficeFor(self):
-        self.assertRegex(run("convert", "--ndjson", text=NODE + "\r\n[" + " " * (64 << 20) + "\n" + NODE)[2], r"<stdin>:2:1: more")
+        text = NODE + "\r\n[" + " " * (64 << 20) + "\n" + NODE
+        self.assertRegex(run("convert", "--ndjson", text=text)[2], r"\A<stdin>:2:1: more than 67108864 bytes")
         limit = lambda kilobytes: lambda: resource.setrlimit(resource.RLIMIT_AS, (kilobytes << 10,) * 2)
-        suffices = [k for k in range(1000, 30000, 500) if run("convert", "--ndjson", text=NODE, preexec_fn=limit(k))[0] == 0]
+        suffices = [k for k in range(1000, 30000, 500) if run("check", "--ndjson", text=NODE, preexec_fn=limit(k))[0] == 0]
         if not suffices:
             self.skipTest("sanitizers need all addresses")
         large = '{"_type":"Node","id":"n1","a":[' + "0," * 2000000 + "0]}"
         for kilobytes in (suffices[0] + 1000, suffices[0] + 8000, suffices[0] + 30000):
             for text in (large, "[" * 9000000, NODE[:-2] + "x" * 9000000 + '"}'):
                 for command in ("convert", "check"):
-                    status, out, error = run(command, "--ndjson", text=f"{NODE}\n{text}\n{NODE}", preexec_fn=limit(kilobytes))
+                    status, out, error = run(command, "--ndjson", text=f"{NODE}\n{text}\n{NODE}",
+                                             preexec_fn=limit(kilobytes))
                     self.assertIn(status, (0, 2), (kilobytes, text[:40], error))
                     self.assertEqual(out.count(NODE), 2 if command == "convert" else 0)
                     self.assertRegex(error, r"\A(<stdin>:2:\d+: [^\n]*\n)?(tarvonel-json: 1 member [^\n]*\n)?\Z")
@@ -173,7 +179,8 @@ class Tool(unittest.TestCase):
                                         (file.name, r"\S+\.ndjson: \d+ KiB of 1 MiB, ", r", \d+ s left")):
                 terminal, error = pty.openpty()
                 with subprocess.Popen(["cat", file.name], stdout=subprocess.PIPE) as cat, subprocess.Popen(
-                        [TOOL, "convert", "--ndjson", source], stdin=cat.stdout, stdout=subprocess.PIPE, stderr=error) as process:
+                        [TOOL, "convert", "--ndjson", source], stdin=cat.stdout, stdout=subprocess.PIPE,
+                        stderr=error) as process:
                     cat.stdout.close()
                     while fcntl.ioctl(process.stdout, termios.FIONREAD, b"....")[1:] == b"\0\0\0":
                         time.sleep(0.01)
@@ -185,7 +192,8 @@ class Tool(unittest.TestCase):
 
     def test_UsesColoursOnTerminalsOnly(self):
         text = '{"_type":"BoundaryRelative","origin":"Absolute"}'
-        start, sentence = "<stdin>:1:38: /origin: ", '"Absolute" is the origin of a relative boundary, which ends the process'
+        start = "<stdin>:1:38: /origin: "
+        sentence = '"Absolute" is the origin of a relative boundary, which ends the process'
         coloured = f"\x1b[1m{start}\x1b[0m\x1b[31mFATAL: {sentence}\x1b[0m\n"
         self.assertEqual(on_terminal("check", text=text), coloured)
         self.assertEqual(on_terminal("convert", text=text), f"\x1b[1m{start}\x1b[0mrefused: {sentence}\n")
@@ -203,7 +211,8 @@ class Tool(unittest.TestCase):
 
     def test_DocumentsItselfAlikeEverywhere(self):
         self.assertEqual(run("--man-page"), (0, (ROOT / "tools/tarvonel-json.1").read_text(), ""))
-        for command in re.findall(r"^  ([a-z]+) .*", run("help")[1].partition("Subcommands:")[2].partition("\n\n")[0], re.M):
+        commands = run("help")[1].partition("Subcommands:")[2].partition("\n\n")[0]
+        for command in re.findall(r"^  ([a-z]+) .*", commands, re.M):
             self.assertEqual(run("help", command), run(command, "--help"))
         complete = ('source "$1"; COMP_WORDS=("${@:2}"); COMP_CWORD=$(($# - 2));'
                     '_tarvonel_json "$2"; echo "${COMPREPLY[@]}"')

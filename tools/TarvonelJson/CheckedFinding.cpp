@@ -7,13 +7,11 @@
 #include <TarvonelJson/Refusal.h>
 
 #include <Qiv/Common/Serialization/Json/Stringer.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
-
-#include <json/value.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <utility>
 
 namespace TarvonelJson
@@ -22,26 +20,24 @@ namespace TarvonelJson
 using namespace Qiv::DataModel::Tarvonel::Serialization::Json;
 using Qiv::Common::Serialization::Json::Stringer;
 
-namespace
-{
-
-CheckedFinding FromRefusal(Refusal refusal, const char* kind, Level level)
-{
-    return {refusal.position, std::move(refusal.pointer), kind, std::move(refusal.sentence), "", level, 0};
-}
-
-} // namespace
-
 std::vector<CheckedFinding> CheckDocument(const SourceText& source)
 {
-    Json::Value document;
-    if (const auto result = ParseText(source.text, document); !result)
-        return {FromRefusal(NotJson(source, result), "invalid-json", Level::NotJson)};
-    if (!KindOf(document))
-        return {FromRefusal(UnknownType(source, document), "unknown-type", Level::Failure)};
-
-    auto checked = FindInstability(document);
-    for (auto& finding : InspectDocument(document))
+    std::vector<Finding> findings;
+    ReadOptions options;
+    options.findings = &findings;
+    options.maximumFindings = std::numeric_limits<std::size_t>::max();
+    std::vector<CheckedFinding> checked;
+    if (const auto result = Documents::ReadAnyText(source.text, options))
+    {
+        checked = FindInstability(source.text, result.Entity());
+    }
+    else if (auto refusal = WhyNotRead(source); refusal.kind != nullptr)
+    {
+        const auto level = refusal.status == ExitStatus::Trouble ? Level::NotJson : Level::Failure;
+        return {
+            {refusal.position, std::move(refusal.pointer), refusal.kind, std::move(refusal.sentence), "", level, 0}};
+    }
+    for (auto& finding : findings)
     {
         checked.push_back({{},
                            std::move(finding.pointer),

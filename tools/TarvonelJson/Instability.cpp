@@ -89,25 +89,24 @@ private:
 
 } // namespace
 
-std::vector<CheckedFinding> FindInstability(const JsonObject& document)
+std::vector<CheckedFinding> FindInstability(std::string_view text, const Documents::AnyEntity& entity)
 {
-    const auto entity = Documents::ReadAny(document);
-    if (!entity)
+    const auto written = Documents::ToText(entity);
+    if (written == text)
         return {};
-    const auto written = Documents::ToText(entity.Entity());
+    const auto reread = Documents::ReadAnyText(written);
+    const auto again = reread ? Documents::ToText(reread.Entity()) : std::string();
+    JsonObject document;
+    JsonObject first;
+    JsonObject second;
+    if (again == written || !ParseText(text, document) || !ParseText(written, first))
+        return {};
     Comparison comparison(document);
-    if (const auto reread = Documents::ReadAnyText(written); !reread)
-    {
+    if (!reread)
         comparison.Report("is written so that it can't be read again: " + reread.ErrorMessage(), document,
                           reread.Pointer());
-    }
-    else if (const auto again = Documents::ToText(reread.Entity()); again != written)
-    {
-        JsonObject first;
-        JsonObject second;
-        if (ParseText(written, first) && ParseText(again, second))
-            comparison.Compare(first, second, &document, "");
-    }
+    else if (ParseText(again, second))
+        comparison.Compare(first, second, &document, "");
     return comparison.TakeFindings();
 }
 

@@ -57,7 +57,8 @@ Refusal NotJson(const SourceText& source, const TextResult& result)
 {
     const bool needsHint = !source.isLine && IsSecondDocument(source.text, result.Position());
     return {result.Position(), result.Pointer(),
-            result.ErrorMessage() + (needsHint ? "; with --ndjson each line is a document" : ""), ExitStatus::Trouble};
+            result.ErrorMessage() + (needsHint ? "; with --ndjson each line is a document" : ""), ExitStatus::Trouble,
+            "invalid-json"};
 }
 
 Refusal UnknownType(const SourceText& source, const JsonObject& document)
@@ -65,9 +66,13 @@ Refusal UnknownType(const SourceText& source, const JsonObject& document)
     constexpr std::string_view key = "_type";
     const auto* const type = document.isObject() ? document.find(key.data(), key.data() + key.size()) : nullptr;
     const auto expected = ": " + KnownTypesInWords() + " expected";
+    Refusal refusal{PositionOf(source.text, document.getOffsetStart()), "", "no \"_type\"" + expected,
+                    ExitStatus::Findings, "unknown-type"};
     if (type == nullptr)
-        return {PositionOf(source.text, document.getOffsetStart()), "", "no \"_type\"" + expected};
-    Refusal refusal{PositionOf(source.text, type->getOffsetStart()), "/_type", "is no string" + expected};
+        return refusal;
+    refusal.position = PositionOf(source.text, type->getOffsetStart());
+    refusal.pointer = "/_type";
+    refusal.sentence = "is no string" + expected;
     if (type->isString())
     {
         const auto text = type->asString();

@@ -20,6 +20,8 @@ struct Refusal
     std::string pointer;
     std::string sentence;
     ExitStatus status = ExitStatus::Findings;
+    /// How `check` calls it when there is nothing else to say of the document, otherwise null.
+    const char* kind = nullptr;
 };
 
 /// Of a text that is no JSON, as `result` says.
