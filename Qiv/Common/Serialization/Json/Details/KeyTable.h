@@ -44,6 +44,8 @@ public:
         return key.size() == text.size() && AreEqual(key.data(), text.data(), key.size()) ? index : notFound;
     }
 
+    std::string_view KeyAt(std::size_t index) const noexcept { return keys_[index]; }
+
 private:
     static constexpr std::size_t placeCount = 64;
 

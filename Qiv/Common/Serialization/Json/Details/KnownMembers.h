@@ -14,15 +14,11 @@
 namespace Qiv::Common::Serialization::Json::Details
 {
 
-/// Sets `members[i]` to the member with the i-th key of the table, and leaves it alone when there is none. What
-/// `KnownMembers` does. Returns the number of all members of the object; 0 for a value that is none.
-QIV_COMMON_SERIALIZATION_EXPORT std::size_t FindMembers(ValueView json, const KeyTable& keys,
-                                                        ValueView* members) noexcept;
-
 /// The failure "Invalid type X : Y expected".
 [[gnu::cold]] QIV_COMMON_SERIALIZATION_EXPORT Result InvalidType(std::string_view type, std::string_view expected);
 
-/// The members of a JSON object that a form knows, all found in one walk over the object.
+/// The members of a JSON object that a form knows, found in one walk over the object, or by one look-up each where most
+/// of the object's members are others.
 ///
 /// A value that is not an object has no members. A null member counts as absent.
 ///
@@ -33,7 +29,10 @@ class KnownMembers
     static constexpr KeyTable keys{keysOf<TForm>};
 
 public:
-    explicit KnownMembers(ValueView json) noexcept { size_ = FindMembers(json, keys, members_.data()); }
+    explicit KnownMembers(ValueView json) noexcept : document_(json.document_)
+    {
+        size_ = json.FindMembers(keys, members_.size(), members_.data());
+    }
 
     /// What ValueView::IsEmptyObject says of the object.
     bool IsEmpty() const noexcept { return size_ == 0; }
@@ -46,7 +45,7 @@ public:
     template <const FormMember<TForm>& member>
     [[gnu::always_inline]] auto Get() const noexcept
     {
-        const auto& value = members_[IndexOfListed<member>()];
+        const ValueView value(members_[IndexOfListed<member>()], document_);
         if constexpr (member.type == JsonType::Text)
             return value.Text();
         else if constexpr (member.type == JsonType::Integer)
@@ -84,7 +83,8 @@ private:
         return index;
     }
 
-    std::array<ValueView, TForm::members.size()> members_{};
+    std::array<const void*, TForm::members.size()> members_{};
+    const TextNodes* document_;
     std::size_t size_ = 0;
 };
 

@@ -1,6 +1,7 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/DocumentKind.h>
 
 #include <Qiv/Common/Serialization/Json/Details/ValueView.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/InspectValue.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/BoundaryForm.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelForm.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/SequenceOutputForm.h>
@@ -39,13 +40,18 @@ constexpr Tag tags[] = {
 
 } // namespace
 
-std::optional<DocumentKind> KindOf(const JsonObject& document) noexcept
+std::optional<DocumentKind> Details::KindOfValue(ValueView document) noexcept
 {
-    const auto text = ValueView(document).Find(keyOf<ChannelForm::type>).Text();
+    const auto text = document.Find(keyOf<ChannelForm::type>).Text();
     for (const auto& tag : tags)
         if (text == tag.text)
             return tag.kind;
     return std::nullopt;
+}
+
+std::optional<DocumentKind> KindOf(const JsonObject& document) noexcept
+{
+    return Details::KindOfValue(document);
 }
 
 std::string_view IdOf(const JsonObject& document) noexcept

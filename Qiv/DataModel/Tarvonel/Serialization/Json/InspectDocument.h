@@ -5,10 +5,14 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/DocumentKind.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Finding.h>
 
+#include <cstddef>
 #include <vector>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::Json
 {
+
+/// How many findings an inspection returns that is not told otherwise.
+inline constexpr std::size_t mostFindings = 100'000;
 
 /// Tells what the readers would pass over silently in a document, what makes them fail, and what ends the process.
 ///
@@ -25,15 +29,19 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json
 /// Members with a `WrongType`, `UnknownMember` or `Ignored` may be removed without any effect on the entity, as long
 /// as the document has no failure and the object around them does not become empty, which readers refuse.
 ///
+/// At most `maximum` findings are returned, the first ones in that order; the first `Failure` and the first
+/// `EndsProcess` come in addition where they are not among these.
+///
 /// Throws nothing but std::bad_alloc. The depth of the document does not matter: unknown members are not descended
 /// into.
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT std::vector<Finding>
-InspectDocument(const Common::Serialization::Json::JsonObject& document);
+InspectDocument(const Common::Serialization::Json::JsonObject& document, std::size_t maximum = mostFindings);
 
 /// The same for a caller who knows what the document should be: judged as by the reader of that kind, with the given
 /// channel kind as target. "_type" is optional where the reader says so, and another one is a failure.
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT std::vector<Finding>
-InspectDocument(const Common::Serialization::Json::JsonObject& document, DocumentKind kind);
+InspectDocument(const Common::Serialization::Json::JsonObject& document, DocumentKind kind,
+                std::size_t maximum = mostFindings);
 
 // ParseText parses texts.
 template <typename Text>

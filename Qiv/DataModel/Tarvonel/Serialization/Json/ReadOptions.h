@@ -3,6 +3,7 @@
 #include <Qiv/BusinessEntityModel/BaseTypes/Identifier.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Finding.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/FindingKinds.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/TextLimits.h>
 
 #include <cstddef>
 #include <vector>
@@ -21,6 +22,9 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json
 /// documents that the reader fails for.
 struct ReadOptions
 {
+    /// What a text may demand; nothing is asked of a `Json::Value`.
+    TextLimits limits;
+
     /// Findings for which the document is refused, told by the sentence of the first of them. Readers pass over all
     /// but `Failure` and `EndsProcess`, which are refused anyway: a failure that comes before is told instead, by the
     /// reader's own text.

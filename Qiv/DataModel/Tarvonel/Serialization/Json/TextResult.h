@@ -15,8 +15,13 @@ public:
     /// A success.
     TextResult() = default;
 
-    TextResult(std::string errorMessage, const TextPosition& position, std::string pointer = {})
-        : success_(false), errorMessage_(std::move(errorMessage)), position_(position), pointer_(std::move(pointer))
+    TextResult(std::string errorMessage, const TextPosition& position, std::string pointer = {},
+               std::string sentence = {})
+        : success_(false),
+          errorMessage_(std::move(errorMessage)),
+          position_(position),
+          pointer_(std::move(pointer)),
+          sentence_(std::move(sentence))
     {
     }
 
@@ -25,10 +30,16 @@ public:
         return success_;
     }
 
-    /// Empty on success.
+    /// The reader's own text, whole and unchanged, when it fails. Empty on success.
     const std::string& ErrorMessage() const noexcept
     {
         return errorMessage_;
+    }
+    /// What is wrong, told to people: that of the finding when the reader fails (InspectDocument), otherwise the
+    /// message. One line of printable text, in which a text of the document is cut to 80 characters. Empty on success.
+    const std::string& Sentence() const noexcept
+    {
+        return sentence_.empty() ? errorMessage_ : sentence_;
     }
     /// The place of the failure; line 1, column 1 on success.
     const TextPosition& Position() const noexcept
@@ -47,6 +58,7 @@ private:
     std::string errorMessage_;
     TextPosition position_;
     std::string pointer_;
+    std::string sentence_;
 };
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json

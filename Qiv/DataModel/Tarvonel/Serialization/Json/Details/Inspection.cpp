@@ -1,14 +1,14 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Inspection.h>
 
 #include <Qiv/Common/Serialization/Json/Details/KnownMembers.h>
-#include <Qiv/Common/Serialization/Json/Stringer.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Quote.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
 {
 
-using Common::Serialization::Json::Stringer;
 using Common::Serialization::Json::Details::InvalidType;
 using Common::Serialization::Json::Details::typeKey;
 
@@ -102,7 +102,17 @@ Inspection::Step::Step(Inspection& inspection, std::string_view key)
 
 void Inspection::Report(FindingKind kind, ValueView value, std::string sentence, std::string readerMessage)
 {
-    findings_.push_back({pointer_, kind, std::move(sentence), std::move(readerMessage), value.Offset()});
+    if (IsKept(kind))
+        findings_.push_back({pointer_, kind, std::move(sentence), std::move(readerMessage), value.Offset()});
+}
+
+bool Inspection::IsKept(FindingKind kind)
+{
+    if (onlyFatal_ && kind != FindingKind::EndsProcess)
+        return false;
+    const bool isFirst = (kind == FindingKind::Failure && !std::exchange(hasFailure_, true)) ||
+                         (kind == FindingKind::EndsProcess && !std::exchange(hasFatal_, true));
+    return findings_.size() < maximum_ || isFirst;
 }
 
 void Inspection::ReportFailure(ValueView value, std::string_view why, std::string readerMessage)
@@ -120,7 +130,7 @@ void Inspection::ReportMissing(ValueView object, std::string_view key, const Oth
         Report(FindingKind::MissingMember, object, sentence.append("; the object is skipped"));
 }
 
-void Inspection::ReportWrongType(ValueView object, ValueView value, const MemberRule& rule)
+void Inspection::ReportWrongType(ValueView value, const MemberRule& rule)
 {
     auto sentence =
         std::string("is ").append(TypeNameOf(value)).append(", where ").append(NameOf(rule.type)).append(" belongs");
@@ -131,7 +141,7 @@ void Inspection::ReportWrongType(ValueView object, ValueView value, const Member
     case Otherwise::ObjectIsSkipped:
         return Report(FindingKind::WrongType, value, sentence.append("; the object around it is skipped"));
     case Otherwise::ReaderFails:
-        return ReportFailure(value.IsNull() ? object : value, sentence, rule.otherwise.message);
+        return ReportFailure(value, sentence, rule.otherwise.message);
     }
 }
 
@@ -149,7 +159,7 @@ bool Inspection::HasTag(ValueView object, const ObjectShape& shape)
     const auto text = tag.Text();
     if (!text)
     {
-        ReportWrongType(object, tag, {typeKey, JsonType::Text, nullptr, shape.withoutTag});
+        ReportWrongType(tag, {typeKey, JsonType::Text, nullptr, shape.withoutTag});
         return isOptional;
     }
     if (*text == shape.tag)
@@ -191,11 +201,9 @@ void Inspection::InspectMembers(ValueView object, const ObjectRules& rules)
 
 void Inspection::InspectForFatal(ValueView object, const ObjectRules& rules)
 {
-    const auto before = static_cast<std::ptrdiff_t>(findings_.size());
+    onlyFatal_ = true;
     InspectMembers(object, rules);
-    findings_.erase(std::remove_if(findings_.begin() + before, findings_.end(),
-                                   [](const Finding& finding) { return finding.kind != FindingKind::EndsProcess; }),
-                    findings_.end());
+    onlyFatal_ = false;
 }
 
 void Inspection::InspectMember(ValueView object, const MemberRule& rule)
@@ -209,7 +217,7 @@ void Inspection::InspectMember(ValueView object, const MemberRule& rule)
     }
     const Step step(*this, rule.key);
     if (!IsOfType(value, rule.type))
-        ReportWrongType(object, value, rule);
+        ReportWrongType(value, rule);
     else if (rule.check != nullptr)
         rule.check(*this, value);
 }
@@ -225,16 +233,6 @@ void Inspection::ReportUnknown(ValueView object, const ObjectRules& rules, std::
             Report(FindingKind::UnknownMember, member,
                    Quote(name).append(" is no member of ").append(tag).append("; it is skipped"));
         });
-}
-
-std::string Quote(std::string_view text, std::size_t longest)
-{
-    if (text.size() <= longest)
-        return Stringer().Value(text).ToString();
-    auto length = longest;
-    while (length > longest - 4 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) // within a character
-        --length;
-    return Stringer().Value(text.substr(0, length)).ToString() + "...";
 }
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details

@@ -128,6 +128,9 @@ public:
         std::size_t length_;
     };
 
+    /// Keeps at most so many findings, and beyond that the first that the reader stops at of each kind.
+    explicit Inspection(std::size_t maximum) : maximum_(maximum) {}
+
     void Report(FindingKind kind, ValueView value, std::string sentence, std::string readerMessage = {});
     void ReportFailure(ValueView value, std::string_view why, std::string readerMessage);
 
@@ -145,13 +148,16 @@ public:
 private:
     bool HasTag(ValueView object, const ObjectShape& shape);
     void ReportMissing(ValueView object, std::string_view key, const Otherwise& otherwise);
-    void ReportWrongType(ValueView object, ValueView value, const MemberRule& rule);
+    void ReportWrongType(ValueView value, const MemberRule& rule);
 
+    bool IsKept(FindingKind kind);
+
+    std::size_t maximum_;
+    bool onlyFatal_ = false;
+    bool hasFailure_ = false;
+    bool hasFatal_ = false;
     std::vector<Finding> findings_;
     std::string pointer_;
 };
-
-/// A text of the document for a sentence: quoted, escaped, and cut when it is long.
-std::string Quote(std::string_view text, std::size_t longest = 60);
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details

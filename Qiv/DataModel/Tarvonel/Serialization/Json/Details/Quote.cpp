@@ -11,7 +11,6 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
 namespace
 {
 
-constexpr std::size_t longest = 80;
 
 struct Range
 {
@@ -69,7 +68,7 @@ std::size_t Show(std::string_view text, std::string& shown)
 
 } // namespace
 
-std::string Quote(std::string_view text)
+std::string Quote(std::string_view text, std::size_t longest)
 {
     std::string quoted = "\"", shown;
     std::size_t count = 2;           // characters, the closing quote among them

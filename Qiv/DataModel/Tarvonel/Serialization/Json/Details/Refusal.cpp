@@ -1,7 +1,9 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Refusal.h>
 
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Inspection.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/InspectValue.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Quote.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelForm.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -12,27 +14,25 @@
 namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
 {
 
-using Common::Serialization::Json::JsonObject;
+using Common::Serialization::Json::Details::keyOf;
+using Common::Serialization::Json::Details::ValueView;
+using Form = MediaIOs::Json::Details::ChannelForm;
 
 namespace
 {
 
-TextResult RefusalOfIdentifier(const JsonObject& json, DocumentKind kind, const std::string& expected,
-                               std::string_view text)
+TextResult RefusalOfIdentifier(ValueView json, DocumentKind kind, const std::string& expected, std::string_view text)
 {
     const auto hasIdentifier =
         kind == DocumentKind::MediaInput || kind == DocumentKind::MediaOutput || kind == DocumentKind::Node;
-    constexpr std::string_view key = "id";
-    if (!hasIdentifier || expected.empty() || !json.isObject())
+    if (!hasIdentifier || expected.empty())
         return {};
-    const auto* const id = json.find(key.data(), key.data() + key.size());
-    if (id == nullptr || !id->isString())
-        return {};
-    const auto found = id->asString();
+    const auto id = json.Find(keyOf<Form::id>); // a node's key is the same
+    const auto found = id.Text().value_or(std::string_view());
     if (found.empty() || found == expected)
         return {};
-    return {Quote(found).append(" is another identifier than ").append(Quote(expected)),
-            PositionOf(text, id->getOffsetStart()), "/id"};
+    return {Quote(found).append(" is another identifier than ").append(Quote(expected)), PositionOf(text, id.Offset()),
+            std::string("/").append(keyOf<Form::id>)};
 }
 
 // The first finding that is refused, unless the reader would fail before.
@@ -50,11 +50,11 @@ TextResult RefusalOfFindings(const std::vector<Finding>& findings, FindingKinds 
 
 } // namespace
 
-TextResult RefusalOf(const JsonObject& json, DocumentKind kind, const ReadOptions& options, std::string_view text)
+TextResult RefusalOf(ValueView json, DocumentKind kind, const ReadOptions& options, std::string_view text)
 {
     std::vector<Finding> findings;
     if (options.findings != nullptr || !options.refuse.IsEmpty())
-        findings = InspectDocument(json, kind);
+        findings = InspectValue(json, kind, mostFindings);
     auto refusal = RefusalOfIdentifier(json, kind, options.expectedId, text);
     if (refusal)
         refusal = RefusalOfFindings(findings, options.refuse, text);

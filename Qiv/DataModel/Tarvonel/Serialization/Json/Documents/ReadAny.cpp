@@ -1,20 +1,17 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
 
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Refusal.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/InspectValue.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/ReadDocument.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/TextDocument.h>
 
 #include <memory>
-#include <string>
 #include <utility>
-#include <vector>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::Json::Documents
 {
 
-using Common::Serialization::Result;
 using Common::Serialization::Json::JsonObject;
+using Common::Serialization::Json::Details::ValueView;
 using Tarvonel::MediaIOs::Boundary;
 using Tarvonel::MediaIOs::BoundaryAbsolute;
 using Tarvonel::MediaIOs::BoundaryRelative;
@@ -40,75 +37,59 @@ Entity EntityOf(Entity&& entity)
     return std::forward<Entity>(entity);
 }
 
+// What every kind of document is read with.
+struct Source
+{
+    ValueView json;
+    std::string_view text; // that it was parsed from, or empty
+    const ReadOptions& options;
+};
+
 template <typename Entity>
-Result ReadAs(const JsonObject& json, AnyEntity& target)
+AnyResult ReadAs(const Source& source)
 {
     Entity entity{};
-    auto result = ReadSnapshot(json, entity);
-    if (result)
-        target = EntityOf(std::move(entity));
-    return result;
+    if (auto result =
+            Details::ReadDocument(source.json, source.text, entity, Details::ReadMode::Snapshot, source.options);
+        !result)
+        return result;
+    return AnyEntity(EntityOf(std::move(entity)));
 }
 
-Result ReadKind(const JsonObject& json, DocumentKind kind, AnyEntity& target)
+AnyResult Read(const Source& source)
 {
-    switch (kind)
+    // A document of no kind is read as a channel, which fails without taking anything from it.
+    switch (Details::KindOfValue(source.json).value_or(DocumentKind::MediaInput))
     {
     case DocumentKind::MediaInput:
-        return ReadAs<MediaInput>(json, target);
+        return ReadAs<MediaInput>(source);
     case DocumentKind::MediaOutput:
-        return ReadAs<MediaOutput>(json, target);
+        return ReadAs<MediaOutput>(source);
     case DocumentKind::Node:
-        return ReadAs<Node>(json, target);
+        return ReadAs<Node>(source);
     case DocumentKind::SequenceOutput:
-        return ReadAs<SequenceOutput>(json, target);
+        return ReadAs<SequenceOutput>(source);
     case DocumentKind::Speed:
-        return ReadAs<Speed>(json, target);
+        return ReadAs<Speed>(source);
     case DocumentKind::Boundary:
         break;
     }
-    return ReadAs<std::unique_ptr<Boundary>>(json, target);
-}
-
-AnyResult Read(const JsonObject& json, const ReadOptions& options, std::string_view text)
-{
-    const auto failure = [text](const Finding& finding, const std::string& message)
-    { return TextResult(message, PositionOf(text, finding.offset), finding.pointer); };
-
-    // A document of no kind is read as a channel, which fails without taking anything from it.
-    const auto kind = KindOf(json).value_or(DocumentKind::MediaInput);
-    if (auto refusal = Details::RefusalOf(json, kind, options, text); !refusal)
-        return refusal;
-    if (kind == DocumentKind::MediaOutput || kind == DocumentKind::Boundary) // of others nothing ends the process
-    {
-        const auto findings = InspectDocument(json, kind);
-        if (const auto* const fatal = FirstFatal(findings))
-            return failure(*fatal, fatal->sentence);
-    }
-    AnyEntity entity;
-    const auto result = ReadKind(json, kind, entity);
-    if (result)
-        return entity;
-    const auto findings = InspectDocument(json, kind);
-    const auto* const announced = FirstFailure(findings);
-    return failure(announced != nullptr ? *announced : Finding(), result.ErrorMessage());
+    return ReadAs<std::unique_ptr<Boundary>>(source);
 }
 
 } // namespace
 
 AnyResult ReadAny(const JsonObject& json, const ReadOptions& options)
 {
-    return Read(json, options, {});
+    return Read({json, {}, options});
 }
 
 AnyResult ReadAnyText(std::string_view text, const ReadOptions& options)
 {
-    if (options.findings != nullptr)
-        options.findings->clear();
-    JsonObject json;
-    if (auto result = ParseText(text, json); !result)
-        return result;
-    return Read(json, options, text);
+    Details::TextDocument document;
+    if (auto failure = Details::ParseFor(options, text, document); !failure)
+        return failure;
+    return Read({ValueView(document.Nodes(), document.Root()), text, options});
 }
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Documents
