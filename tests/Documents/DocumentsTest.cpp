@@ -123,7 +123,7 @@ TEST(ReadOptions, RefuseWhatTheReaderWouldPassOver)
         {R"({"_type":"MediaInput","id":"n1","name":7})", {}, "read", 1},
         // Another identifier than "n1", which is expected.
         {R"({"_type":"Node","id":"n2","x":1})", {}, R"(1:22 /id: "n2" is another identifier than "n1")", 1},
-        {R"({"_type":"MediaInput","id":"n1\u0000"})", {}, R"(1:28 /id: "n1\u0000" is another identifier than "n1")", 0},
+        {R"({"_type":"MediaInput","id":"n1\u0000"})", {}, R"(1:28 /id: "n1\u0000" is another identifier than "n1")", 1},
         {R"({"_type":"Node","id":""})", {}, "read", 0},
         {R"({"_type":"MediaOutput"})", {}, "read", 0},
         {R"({"_type":"MediaOutput","id":2})", {}, "read", 1},
