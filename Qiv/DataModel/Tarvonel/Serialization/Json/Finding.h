@@ -18,7 +18,7 @@ struct Finding
     FindingKind kind = FindingKind::UnknownMember;
 
     /// An English sentence without full stop that says what is wrong and what the reader makes of it, in one line of
-    /// printable text whatever the document holds: "Recordin" is none of Idle, Pause, Recording; it is read as Idle.
+    /// printable text whatever the document holds: "10:00" is no time code; it is skipped
     std::string sentence;
 
     /// Of a `Failure`, the text with which the reader fails; of an `EndsProcess`, that of the exception which nobody

@@ -7,18 +7,17 @@
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
-/// Reads a recorder channel. After the common members (see `JsonToMediaIOConverter`):
+/// Reads a recorder channel: the common members (see `JsonToMediaIOConverter`), then its own, each into the property of
+/// the same name, in the order of the table in docs/json.md. Of these have a rule of their own:
 ///
-///     "recordingStatus":"Recording"                                  unknown text gives Idle
-///     "lastTimePoint":{time point}                                   a failure of its reader fails the channel
-///     "lastTodTimecode":"2016-03-21T14:05:09:17@25", "lastUserTimecode":"10:00:00;00@30"
-///     "primaryTimecodeType":"User"                                   unknown text gives NotSet
-///     "remainingCapacity":{"_type":"Duration","value":"<nanoseconds>"}, "totalCapacity":{the same}
+///     "recordingStatus":"Recording"            unknown text gives Idle
+///     "lastTimePoint":{time point}             a failure of its reader fails the channel
+///     "primaryTimecodeType":"User"             unknown text gives NotSet
+///     "remainingCapacity":{duration}           before "totalCapacity", through setters that keep the two consistent
 ///
-/// Members are applied one after another in this order, through the channel's setters, which keep the capacities
-/// consistent. What is absent, null, of another type, or has a text that no time code or duration has, is skipped
-/// without a message. So a time code without date does not come back from what the writer makes of it: its placeholder
-/// date is no valid one.
+/// What is absent, null, of another type, or has a text that no time code or duration has, is skipped without a
+/// message. So a time code without date does not come back from what the writer makes of it: its placeholder date is
+/// no valid one.
 ///
 /// Failures: "MediaInput is empty" and "Invalid type X : MediaInput expected" leave the channel untouched; those of
 /// nested readers are returned unchanged, with the members before them applied.

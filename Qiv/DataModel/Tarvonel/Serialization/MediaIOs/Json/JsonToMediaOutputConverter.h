@@ -7,18 +7,17 @@
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
-/// Reads a player channel. After the common members (see `JsonToMediaIOConverter`), applied in this order:
+/// Reads a player channel: the common members (see `JsonToMediaIOConverter`), then its own, each into the property of
+/// the same name, in the order of the table in docs/json.md. Of these have a rule of their own:
 ///
-///     "playingStatus":"Playing"                                      unknown text gives Idle
-///     "speedOnAir":{speed}                                           read into 0/0, not into the current speed
-///     "globalLoopMode":"Loop"                                        unknown text gives Unknown
-///     "remainingTime":{"_type":"Duration","value":"<nanoseconds>"}
-///     "sequence":{sequence output}                                   replaces the sequence state
-///     "currentTimePointOnAir":{"_type":"TimePoint","value":"<nanoseconds>" or a number of 64 bits}
-///     "todTimecodeOnAir":"2016-03-21T14:05:09:17@25", "userTimecodeOnAir":"10:00:00;00@30"
-///     "primaryTimecodeType":"User"                                   unknown text gives NotSet
-///     "inBoundary":{boundary}, "outBoundary":{boundary}
-///     "locationOnAir"                                                reserved; any value is accepted and ignored
+///     "playingStatus":"Playing"                unknown text gives Idle
+///     "speedOnAir":{speed}                     read into 0/0, not into the current speed
+///     "globalLoopMode":"Loop"                  unknown text gives Unknown
+///     "sequence":{sequence output}             replaces the sequence state; before "currentTimePointOnAir"
+///     "currentTimePointOnAir":{time point}     its "value" may be a number of 64 bits
+///     "primaryTimecodeType":"User"             unknown text gives NotSet
+///     "inBoundary", "outBoundary":{boundary}   replaces the boundary
+///     "locationOnAir"                          reserved; any value is accepted and ignored
 ///
 /// What is absent, null, of another type, or has a text that no time code or duration has, is skipped without a
 /// message. Of the text in "currentTimePointOnAir" white space and a sign before the number are accepted, and what
