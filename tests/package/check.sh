@@ -82,19 +82,19 @@ exported() # LIBRARY
 
 check_symbols() # BUILD [--write]
 {
-    local library list
+    local library list folder=$here/../abi/amd64
+    [[ $(multiarch) != i386-linux-gnu ]] || folder=$here/../abi/i386
+    [[ ${2:-} != --write ]] || { mkdir -p "$folder" && rm -f "$folder"/*.symbols; }
     for library in "$1"/lib/lib*.so; do
-        list=$here/../abi/$(basename "$library" .so).symbols
+        list=$folder/$(basename "$library" .so).symbols
         if [[ ${2:-} == --write ]]; then
-            mkdir -p "$(dirname "$list")"
             exported "$library" >"$list"
         else
             exported "$library" | diff -u "$list" - ||
                 fail "$(basename "$library") exports something else; if that is meant: ./run symbols"
         fi
     done
-    [[ ${2:-} == --write ]] || (($(ls "$here"/../abi/*.symbols | wc -l) == $(ls "$1"/lib/lib*.so | wc -l))) ||
-        fail "not one list a library"
+    (($(ls "$folder"/*.symbols | wc -l) == $(ls "$1"/lib/lib*.so | wc -l))) || fail "not one list a library"
 }
 
 check_hardened() # BUILD
