@@ -1,11 +1,18 @@
 // Made from documents.schema.json by make_types.py.
 
 /**
- * Every document that the Qiv writers write: channels, nodes, and the parts of a channel that stand on their own.
- * "_type" tells the kind and is written first, but readers do not rely on any order of members. null is never written.
- * A text ends before its first NUL, as writers pass texts null-terminated. Documents from elsewhere may leave out any
- * member but "_type" and the "id" of a node; for readers of a channel that means that it keeps the value it has.
- * Readers skip without a message what does not fit this schema, save where a description says otherwise.
+ * Documents of the media-IO model, as the Qiv writers write whatever their readers have read: channels, nodes, and the
+ * parts of a channel that stand on their own. "_type" tells the kind and is written first, but readers do not rely on
+ * any order of members. null is never written. A text ends before its first NUL, as writers pass texts null-terminated.
+ * Programs can build entities that no document gives and that are written otherwise, such as those with a server
+ * identifier that is no positive multiple of 10, a metadata profile whose namespace begins with qiv.peloperator, a
+ * number that is no enumerator, a relative boundary that counts from "Absolute", a year after 2261 or a frame below
+ * zero. Documents from elsewhere may leave out every member but "_type", the "id" of a node, and what the descriptions
+ * of references, time points, durations and boundaries ask for; a channel then keeps the value that it has. Where no
+ * description says otherwise, readers skip members that they do not know and values that do not fit, so that a channel
+ * keeps what it has then, too; but another "_type" than the one that is required fails the whole document, as does an
+ * object without members in the place of a channel, a node, an asset, a sequence, a speed, a boundary, a sequence
+ * output or a time point.
  */
 export type Document = MediaInput | MediaOutput | Node | SequenceOutput | Speed | BoundaryAbsolute | BoundaryRelative;
 
@@ -16,15 +23,19 @@ export type Document = MediaInput | MediaOutput | Node | SequenceOutput | Speed 
  */
 export type Nanoseconds = string;
 
-/** A duration. Where it may be left out, that means zero. */
+/**
+ * A duration. Where it may be left out, that means zero. Readers skip one that lacks "_type" or "value", or has another
+ * "_type".
+ */
 export interface Duration {
   _type: "Duration";
   value: Nanoseconds;
 }
 
 /**
- * A point in time, counted in nanoseconds. Where it may be left out, that means that there is none. Readers take a
- * number as "value", too.
+ * A point in time, counted in nanoseconds. Where it may be left out, that means that there is none. Readers do without
+ * "_type", and take an integer of 64 bits as "value", too; a "value" that means no such integer, or none at all, fails
+ * the document.
  */
 export interface TimePoint {
   _type: "TimePoint";
@@ -45,7 +56,10 @@ export interface TimePoint {
  */
 export type TimeCode = string;
 
-/** Which of the two time codes is the primary one: the time of day or the user's. Left out for NotSet. */
+/**
+ * Which of the two time codes is the primary one: the time of day or the user's. Left out for NotSet, as which another
+ * text is read.
+ */
 export type TimecodePrimary = "Tod" | "User" | "NotSet";
 
 /** A recording or a part of one. */
@@ -60,8 +74,9 @@ export interface MediaAsset {
 }
 
 /**
- * A reference to a media asset. With "mediaAsset" it holds the asset itself, whose "id" is then the one that counts.
- * Readers refuse a reference without "mediaAsset" that has any other member beside "_type" and "id".
+ * A reference to a media asset. With "mediaAsset" it holds the asset itself, whose "id" is then the one that counts. A
+ * reference fails the document unless it has an object as "mediaAsset", or else an "id" that is no object, array or
+ * null, with nothing but a text as "_type" beside it.
  */
 export interface MediaAssetRef {
   _type: "MediaAssetRef";
@@ -90,7 +105,7 @@ export interface SequenceRef {
 /**
  * Metadata profiles in flat form. Members are named namespace.key: what stands before the last dot names a profile,
  * what stands behind it a key in it. Readers keep what they have and the document has not. Namespaces that begin with
- * qiv.peloperator belong to the operator profile.
+ * qiv.peloperator belong to the operator profile, of which readers take the two members below and skip all others.
  */
 export interface Metadata {
   /**
@@ -109,7 +124,10 @@ export interface Metadata {
   [name: `${string}.${string}`]: string | number | undefined;
 }
 
-/** A play speed as a fraction: 1/1 is normal speed, -1/2 half speed backwards. */
+/**
+ * A play speed as a fraction: 1/1 is normal speed, -1/2 half speed backwards. Readers take a number that is left out as
+ * 0.
+ */
 export interface Speed {
   _type: "Speed";
   /**
@@ -125,16 +143,22 @@ export interface Speed {
   denominator: number;
 }
 
-/** An in or out point at a point in time. */
+/**
+ * An in or out point at a point in time. In a channel it is left out without "timepoint", which fails the document when
+ * it is neither null nor an object with members.
+ */
 export interface BoundaryAbsolute {
   _type: "BoundaryAbsolute";
   timepoint?: TimePoint;
 }
 
-/** An in or out point relative to another one. */
+/** An in or out point relative to another one. Readers take what is left out as the first origin and as 0. */
 export interface BoundaryRelative {
   _type: "BoundaryRelative";
-  /** The point from which the offset counts. "Absolute" ends the process that reads it. */
+  /**
+   * The point from which the offset counts. "Absolute" ends the process that reads it; any other text is read as the
+   * first origin.
+   */
   origin: "RelativeToCorrespondingMediaBoundary" | "RelativeToOppositeMediaBoundary" | "RelativeToOppositeLoadBoundary";
   /**
    * In the unit that the server has agreed on.
@@ -144,6 +168,7 @@ export interface BoundaryRelative {
   offset: number;
 }
 
+/** An in or out point. One without "_type" fails the document. */
 export type Boundary = BoundaryAbsolute | BoundaryRelative;
 
 /** A block of a sequence and the media asset that it plays. */
@@ -175,11 +200,11 @@ export interface MediaInput {
   name?: string;
   /** The media asset on air. Left out when there is none. */
   mediaAssetOnAir?: MediaAssetRef;
-  /** Left out when there are none. */
+  /** Left out when there are no profiles; an object without members when no profile has a member to write. */
   metadata?: Metadata;
-  /** Always written. */
+  /** Always written. Another text is read as Idle. */
   recordingStatus?: "Idle" | "Pause" | "Recording";
-  /** The last recorded time point. */
+  /** The last recorded time point. What is neither null nor an object with members fails the document. */
   lastTimePoint?: TimePoint;
   /** The last recorded time-of-day time code. */
   lastTodTimecode?: TimeCode;
@@ -201,19 +226,20 @@ export interface MediaOutput {
   name?: string;
   /** The media asset on air. Left out when there is none. */
   mediaAssetOnAir?: MediaAssetRef;
-  /** Left out when there are none. */
+  /** Left out when there are no profiles; an object without members when no profile has a member to write. */
   metadata?: Metadata;
-  /** Always written. */
+  /** Always written. Another text is read as Idle. */
   playingStatus?: "Idle" | "Live" | "Empty" | "Cueing" | "Ready" | "Playing";
   /** Left out when undefined. */
   speedOnAir?: Speed;
-  /** Left out for Unknown. */
+  /** Left out for Unknown, as which another text is read. */
   globalLoopMode?: "None" | "Loop" | "Bounce" | "Unknown";
   /** The time left to play. Left out when zero. */
   remainingTime?: Duration;
   /**
-   * The time point on air. A "value" that does not begin with a number, or does not fit 64 bits, ends the process that
-   * reads it.
+   * The time point on air. A text as "value" that does not begin with a number, or with one that does not fit 64 bits,
+   * ends the process that reads it; what follows the number is passed over. Anything else that does not fit is skipped,
+   * also an object without "_type" or "value" and a number beyond 64 bits.
    */
   currentTimePointOnAir?: TimePoint;
   /** The time-of-day time code on air. */
