@@ -125,8 +125,8 @@ export interface Metadata {
 }
 
 /**
- * A play speed as a fraction: 1/1 is normal speed, -1/2 half speed backwards. Readers take a number that is left out as
- * 0.
+ * A play speed as a fraction: 1/1 is normal speed, -1/2 half speed backwards. Readers leave a number alone that the
+ * document does not have; in a channel it is then 0.
  */
 export interface Speed {
   _type: "Speed";

@@ -20,7 +20,7 @@ baselines() # BUILD
 # Classes that a header does not show, the standard library's functions and the paths of the build are left out.
 interface() # LIBRARY HEADERS
 {
-    readelf -S "$1" | grep -q '[.]debug_info' || { echo "$1 has no debug information" >&2 && return 1; }
+    [[ $(readelf -SW "$1") == *.debug_info* ]] || { echo "$1 has no debug information" >&2 && return 1; }
     abidw --headers-dir "$2" --drop-private-types --suppressions "$here/standard-library.abignore" \
         --drop-undefined-syms --no-elf-needed --no-corpus-path --no-comp-dir-path --no-show-locs \
         --no-parameter-names "$1" | sed "s| path='[./]*| path='|"

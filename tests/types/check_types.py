@@ -1,13 +1,15 @@
 """Holds schema and types against each other and against two languages: check_types.py ROOT
 
 The types must be what the script makes of the schema; tsc must take the documents of the examples and refuse those of
-the cases that types can refuse; ajv and python3-jsonschema must judge all documents alike."""
+the cases that types can refuse; ajv and python3-jsonschema must judge all documents alike; and the code that
+docs/integrators.md shows must write what it says."""
 
 import glob
 import json
 import os
 import random
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -16,6 +18,8 @@ import jsonschema
 
 root = sys.argv[1]
 schema_file = f"{root}/schema/documents.schema.json"
+TSC = ("/usr/bin/nodejs", "/usr/share/nodejs/typescript/lib/tsc.js", "--strict", "--target", "es2020", "--module",
+       "commonjs")
 # What only the numbers and the letters of a value decide, types do not see.
 UNSEEN = re.compile(r"(pattern|minimum|maximum|multipleOf) |\w+ /metadata")
 
@@ -25,9 +29,9 @@ def read(name):
         return file.read()
 
 
-def run(*command, text=None):
+def run(*command, **options):
     environment = {**os.environ, "NODE_PATH": "/usr/share/nodejs"}
-    return subprocess.run(command, input=text, stdout=subprocess.PIPE, encoding="utf-8", env=environment).stdout
+    return subprocess.run(command, stdout=subprocess.PIPE, encoding="utf-8", env=environment, **options).stdout
 
 
 def values(value):
@@ -107,8 +111,21 @@ with tempfile.TemporaryDirectory() as folder:
         file.write(f'import {{ Document }} from "{os.path.abspath(root)}/schema/documents";')
         file.writelines(f"const _{number}: Document = {json.dumps(document)};\n"
                         for number, (document, _) in enumerate(typed))
-    complaints = run("/usr/bin/nodejs", "/usr/share/nodejs/typescript/lib/tsc.js", "--strict", "--noEmit", "--lib",
-                     "es2020", f"{folder}/typed.ts")
+    complaints = run(*TSC, "--noEmit", f"{folder}/typed.ts")
+
+    for name in ("documents.d.ts", "documents.schema.json"):
+        shutil.copy(f"{root}/schema/{name}", folder)
+    shown = re.findall(r"^```(ts|python)\n(.*?)^```\n\n```text\n(.*?)^```$", read("docs/integrators.md"), re.M | re.S)
+    for language, code, output in shown:
+        with open(f"{folder}/shown.{language}", "w", encoding="utf-8") as file:
+            file.write(code)
+        written = run(*TSC, "shown.ts", cwd=folder) if language == "ts" else ""
+        command = ("/usr/bin/nodejs", "shown.js") if language == "ts" else (sys.executable, "shown.python")
+        written += run(*command, cwd=folder)
+        if written != output:
+            wrong.append(f"the {language} code of docs/integrators.md writes {written}")
+    if len(shown) != 2:
+        wrong.append("docs/integrators.md shows other code")
 refused = {int(line) - 1 for line in re.findall(r"typed\.ts\((\d+),", complaints)}
 if len(refused) < 10 or "documents.d.ts" in complaints:
     wrong.append(f"tsc: {complaints}")
@@ -120,7 +137,7 @@ everything = examples + list(documents_of_cases()) + made + [damaged(document) f
 validator = jsonschema.Draft7Validator(json.loads(read("schema/documents.schema.json")))
 here = [validator.is_valid(document) for document in everything]
 lines = "".join(json.dumps(document) + "\n" for document in everything)
-verdicts = run("/usr/bin/nodejs", f"{root}/tests/types/verdicts.js", schema_file, text=lines)
+verdicts = run("/usr/bin/nodejs", f"{root}/tests/types/verdicts.js", schema_file, input=lines)
 there = [line == "true" for line in verdicts.splitlines()]
 wrong += [f"ajv says {other}, jsonschema {one} of {json.dumps(document)}"
           for document, one, other in zip(everything, here, there) if one != other]
