@@ -90,7 +90,10 @@ check_symbols() # BUILD [--write]
         if [[ ${2:-} == --write ]]; then
             exported "$library" >"$list"
         else
-            exported "$library" | diff -u "$list" - ||
+            # What no optimiser has removed of class templates is no difference.
+            exported "$library" |
+                awk -v list="$list" 'BEGIN { while ((getline line <list) > 0) kept[line] }
+                    $0 in kept || !/^(vtable|typeinfo) for .*>$/' | diff -u "$list" - ||
                 fail "$(basename "$library") exports something else; if that is meant: ./run symbols"
         fi
     done
