@@ -125,6 +125,9 @@ check_packages() # FOLDER ARCHITECTURE
     done
     [[ $(LD_LIBRARY_PATH=$root/$lib "$root/usr/bin/tarvonel-json" convert "$root"/usr/share/doc/*/examples/documents/node.json) == \
         "$(cat "$root"/usr/share/doc/*/examples/documents/canonical/node.json)" ]] || fail "the tool does not convert a node"
+    for file in schema/documents.schema.json schema/documents.d.ts cases/Schema.json; do
+        [[ -s $root/usr/share/qiv/$file ]] || fail "$file is not in the package of the tool"
+    done
     dpkg-deb --extract "$1"/libqiv-dev_*_"$2".deb "$root"
 
     grep -qF "\"$(dpkg-deb --field "$1"/libqiv-dev_*_"$2".deb Version | sed 's/-[^-]*$//')\"" \
