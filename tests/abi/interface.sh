@@ -61,32 +61,36 @@ built() # NAME DEFINITION...
 {
     local name=$1
     shift
-    ${CXX:-g++} ${CXXFLAGS:-} -shared -fPIC -O2 -g -flto=auto -std=c++17 -fvisibility=hidden -fvisibility-inlines-hidden \
-        "$@" "$here/changes/Shape.cpp" -o "$scratch/$name.so" && interface "$scratch/$name.so" "$here/changes"
+    # The last definition of a name holds.
+    ${CXX:-g++} ${CXXFLAGS:-} -shared -fPIC -O2 -g -flto=auto -std=c++17 -fvisibility=hidden -w \
+        -D'EXPORTED=__attribute__((visibility("default")))' -DSECOND=1 -DPURE_1=Area -DPURE_2=Length -DTEMPLATE_1=To \
+        -DTEMPLATE_2=Append -DVIRTUAL_1=Width -DVIRTUAL_2=Height -DRESULT=int -DFIELD='int count = 1' -DCODE=1 \
+        -DHIDDEN='int width = 1' "$@" "$here/changes/Shape.cpp" -o "$scratch/$name.so"
+    interface "$scratch/$name.so" "$here/changes"
 }
 
 test()
 {
-    local name definition failed=0
+    local name first second found failed=0
     built kept >"$scratch/kept"
-    while read -r name definition; do
-        # shellcheck disable=SC2086 # a list of words
-        built "$name" $definition >"$scratch/$name"
-        if compare "$scratch/kept" "$scratch/$name" >/dev/null; then echo same; else echo changed; fi >"$scratch/found"
-        [[ $(<"$scratch/found") == "$([[ $name == unchanged* ]] && echo same || echo changed)" ]] ||
-            { echo "interface.sh: $name was found to be $(<"$scratch/found")" >&2 && failed=1; }
+    while IFS='|' read -r name first second; do
+        built "$name" "$first" "${second:--w}" >"$scratch/$name"
+        found=changed
+        ! compare "$scratch/kept" "$scratch/$name" >/dev/null || found=unchanged
+        [[ $name == unchanged* && $found == unchanged || $name != unchanged* && $found == changed ]] ||
+            { echo "interface.sh: found to be $found: $name" >&2 && failed=1; }
     done <<'.'
-unchanged
-unchanged-hidden-class -DHIDDEN_FIELD=1
-unchanged-code -DRESULT=7
-removed-function -DWITHOUT_FUNCTION
-swapped-virtual-functions -DSWAPPED_VIRTUAL
-swapped-pure-virtual-functions -DSWAPPED_PURE
-swapped-virtual-functions-of-a-template -DSWAPPED_IN_TEMPLATE
-added-field -DFIELD=1
-field-of-another-type -Dcount_t=short
-enumerator-of-another-value -DSECOND=5
-result-of-another-type -Dresult_t=long
+unchanged|-w
+unchanged hidden class|-DHIDDEN=double width = 1; int height = 2
+unchanged but for the code|-DCODE=7
+removed function|-DWITHOUT_FUNCTION
+swapped virtual functions|-DVIRTUAL_1=Height|-DVIRTUAL_2=Width
+swapped pure virtual functions|-DPURE_1=Length|-DPURE_2=Area
+swapped virtual functions of a template|-DTEMPLATE_1=Append|-DTEMPLATE_2=To
+added field|-DFIELD=int count = 1; void* next
+field of another type|-DFIELD=short count = 1
+enumerator of another value|-DSECOND=5
+result of another type|-DRESULT=long
 .
     return $failed
 }

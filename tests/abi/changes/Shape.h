@@ -1,13 +1,10 @@
-// A library in small; "interface.sh test" defines names and values otherwise, one at a time.
+// A library in small, of which "interface.sh test" changes the words in capitals one at a time.
 #pragma once
 #include <memory>
 #include <string>
 
-#ifndef SECOND
-#define SECOND 1
-#endif
-
-namespace Qiv {
+namespace Qiv
+{
 
 enum class Kind
 {
@@ -15,59 +12,37 @@ enum class Kind
     Second = SECOND
 };
 
-struct __attribute__((visibility("default"))) Surface
+struct EXPORTED Surface
 {
     virtual ~Surface();
-#ifndef SWAPPED_PURE
-    virtual int Area() const = 0;
-#endif
-    virtual int Length() const = 0;
-#ifdef SWAPPED_PURE
-    virtual int Area() const = 0;
-#endif
+    virtual int PURE_1() const = 0;
+    virtual int PURE_2() const = 0;
 };
 
 template <typename T>
-struct __attribute__((visibility("default"))) Converter
+struct EXPORTED Converter
 {
     virtual ~Converter() = default;
-#ifndef SWAPPED_IN_TEMPLATE
-    virtual bool To(const T& value) const = 0;
-#endif
-    virtual bool Append(const T&) const { return false; }
-#ifdef SWAPPED_IN_TEMPLATE
-    virtual bool To(const T& value) const = 0;
-#endif
+    virtual bool TEMPLATE_1(const T& value) const = 0;
+    virtual bool TEMPLATE_2(const T&) const { return false; }
 };
 
-class __attribute__((visibility("default"))) Shape : public Converter<int>
+class EXPORTED Shape : public Converter<int>
 {
 public:
     Shape();
     ~Shape() override;
-
-#ifndef SWAPPED_VIRTUAL
-    virtual int Width() const;
-#endif
-    virtual int Height() const;
-#ifdef SWAPPED_VIRTUAL
-    virtual int Width() const;
-#endif
-    bool To(const int& value) const override;
+    virtual int VIRTUAL_1() const;
+    virtual int VIRTUAL_2() const;
+    bool TEMPLATE_1(const int& value) const override;
     Kind KindOf(const Surface& surface) const;
-#ifndef WITHOUT_FUNCTION
-    std::string Name() const;
-#endif
-    result_t Count() const;
+    RESULT Count() const;
 
 private:
     struct Hidden;
 
     std::string name;
-    count_t count = 1;
-#ifdef FIELD
-    void* field = nullptr;
-#endif
+    FIELD;
     std::unique_ptr<Hidden> hidden;
 };
 
