@@ -8,6 +8,7 @@
 
 #include <boost/json/detail/impl/default_resource.ipp>
 #include <boost/json/detail/impl/except.ipp>
+#include <boost/json/detail/impl/shared_resource.ipp>
 #include <boost/json/detail/impl/stack.ipp>
 #include <boost/json/impl/error.ipp>
 
@@ -73,11 +74,13 @@ public:
           limits_(limits),
           cursor_(text.data()),
           nodes_(document.firstNodes_),
+          next_(nodes_),
           capacity_(static_cast<std::uint32_t>(std::size(document.firstNodes_))),
           unescaped_(document.firstUnescaped_),
-          unescapedCapacity_(std::size(document.firstUnescaped_))
+          unescapedCapacity_(std::size(document.firstUnescaped_)),
+          direct_(text.size())
     {
-        limit_ = static_cast<std::uint32_t>(std::min<std::size_t>(capacity_, limits.values));
+        limit_ = nodes_ + std::min<std::size_t>(capacity_, limits.values);
     }
 
     bool on_document_begin(ParserError&) noexcept { return true; }
@@ -132,12 +135,13 @@ public:
 
     TextStop StopAt(std::size_t offset) const
     {
+        const auto count = Count();
         const auto* const container = open_ == none ? nullptr : nodes_ + open_;
         bool isBehindKey = false;
         if (container != nullptr && container->type == NodeType::Object)
-            for (auto i = open_ + 1; i < count_ && !isBehindKey; i = isBehindKey ? i : Next(i + 1))
-                isBehindKey = i + 1 == count_;
-        const auto* const last = count_ == 0 ? nullptr : nodes_ + count_ - 1;
+            for (auto i = open_ + 1; i < count && !isBehindKey; i = isBehindKey ? i : Next(i + 1))
+                isBehindKey = i + 1 == count;
+        const auto* const last = count == 0 ? nullptr : next_ - 1;
         const bool isLeaf = last != nullptr && !IsContainer(*last) && last->type != NodeType::Text;
         return {
             text_,      offset, static_cast<std::size_t>(cursor_ - text_.data()), container, isLeaf ? last : nullptr,
@@ -145,6 +149,7 @@ public:
     }
 
 private:
+    std::uint32_t Count() const noexcept { return static_cast<std::uint32_t>(next_ - nodes_); }
     std::uint32_t OffsetOf(const char* place) const noexcept
     {
         return static_cast<std::uint32_t>(place - text_.data());
@@ -166,9 +171,9 @@ private:
 
     bool Add(const char* place, std::size_t size, std::uint32_t link, NodeType type, bool isUnescaped)
     {
-        if (count_ == limit_ && !MakeRoom(place))
+        if (next_ == limit_ && !MakeRoom(place))
             return false;
-        nodes_[count_++] = {OffsetOf(place), static_cast<std::uint32_t>(size), link, type, isUnescaped};
+        *next_++ = {OffsetOf(place), static_cast<std::uint32_t>(size), link, type, isUnescaped};
         return true;
     }
 
@@ -178,7 +183,7 @@ private:
         const auto parent = open_;
         if (!Add(place, 0, parent, type, false)) // until it is closed, the link leads outwards
             return false;
-        open_ = count_ - 1;
+        open_ = Count() - 1;
         cursor_ = place + 1;
         return true;
     }
@@ -188,7 +193,7 @@ private:
         auto& node = nodes_[open_];
         node.size = static_cast<std::uint32_t>(size);
         open_ = node.link;
-        node.link = count_;
+        node.link = Count();
     }
 
     bool AddLiteral(NodeType type, std::uint32_t size)
@@ -209,7 +214,7 @@ private:
         // A text without escapes is told in one piece, which lies in the document's own text.
         const auto distance =
             reinterpret_cast<std::uintptr_t>(text.data()) - reinterpret_cast<std::uintptr_t>(text_.data());
-        if (pending_ != 0 || distance >= text_.size())
+        if (distance >= direct_)
             return AddUnescaped(text);
         cursor_ = text.data() + text.size() + 1;
         return Add(text.data() - 1, text.size(), 0, NodeType::Text, false);
@@ -222,6 +227,7 @@ private:
         std::memcpy(unescaped_ + unescapedSize_, text.data(), text.size());
         unescapedSize_ += text.size();
         pending_ += text.size();
+        direct_ = 0;
         return true;
     }
 
@@ -235,6 +241,7 @@ private:
         ++cursor_;
         const auto size = pending_;
         pending_ = 0;
+        direct_ = text_.size();
         return Add(place, size, static_cast<std::uint32_t>(unescapedSize_ - size), NodeType::Text, true);
     }
 
@@ -242,27 +249,29 @@ private:
     bool MakeRoom(const char* place)
     {
         // A key takes a node, too. The one to be added may be a key, but then its value is refused.
-        const auto values = count_ - keys_;
+        const auto count = Count();
+        const auto values = count - keys_;
         if (values >= limits_.values)
             return FailAt(OffsetOf(place),
                           "the text has more than " + std::to_string(limits_.values) + " values, the limit set for it");
-        if (count_ == capacity_)
-            Grow();
-        limit_ = static_cast<std::uint32_t>(std::min<std::size_t>(capacity_, count_ + (limits_.values - values)));
+        if (count == capacity_)
+            Grow(count);
+        next_ = nodes_ + count;
+        limit_ = nodes_ + std::min<std::size_t>(capacity_, count + (limits_.values - values));
         return true;
     }
 
     // A node takes at least two bytes of the text, a closing bracket or comma counted with it, so that the rest of the
     // text has a largest number of nodes. The storage doubles up to a fifth of what the whole text can have, and then
     // goes there at once: the old and the new one take at most 16 * (1/5 + 1) / 2 = 9.6 times the text.
-    void Grow()
+    void Grow(std::uint32_t count)
     {
         const auto rest = text_.size() - static_cast<std::size_t>(cursor_ - text_.data());
-        const auto most = count_ + (rest + std::min(limits_.depth, mostDepth)) / 2 + 2;
-        const auto early = std::min<std::size_t>(std::size_t{2} * count_, text_.size() / 10);
-        const auto capacity = early > count_ + count_ / 4 ? std::min(early, most) : most;
+        const auto most = count + (rest + std::min(limits_.depth, mostDepth)) / 2 + 2;
+        const auto early = std::min<std::size_t>(std::size_t{2} * count, text_.size() / 10);
+        const auto capacity = early > count + count / 4 ? std::min(early, most) : most;
         std::unique_ptr<TextNode[]> nodes(new TextNode[capacity]);
-        std::memcpy(nodes.get(), nodes_, count_ * sizeof(TextNode));
+        std::memcpy(nodes.get(), nodes_, count * sizeof(TextNode));
         document_.moreNodes_ = std::move(nodes);
         nodes_ = document_.moreNodes_.get();
         capacity_ = static_cast<std::uint32_t>(capacity);
@@ -296,25 +305,35 @@ private:
         return size <= 64 ? CheckFewKeys(first, size) : CheckManyKeys(first, size);
     }
 
-    // Keys that differ in size, first or last byte differ nearly always in the bit they set.
+    // Keys that differ in size, first or last byte differ nearly always in the bit they set. Those of an empty key are
+    // its quotes.
     bool CheckFewKeys(std::uint32_t first, std::uint32_t size)
     {
-        std::array<std::uint64_t, 4> seen{};
-        for (auto i = first; size != 0; i = Next(i + 1), --size)
+        const auto* const nodes = nodes_;
+        const auto* const texts = text_.data() + 1;
+        std::uint64_t seen = 0;
+        for (const auto* key = nodes + first;;)
         {
-            const auto key = KeyAt(i);
-            const auto sum = key.empty() ? 0U
-                                         : static_cast<unsigned>(key.size()) * 11U +
-                                               static_cast<unsigned char>(key.front()) * 3U +
-                                               static_cast<unsigned char>(key.back()) * 7U;
-            auto& word = seen[sum / 64 % 4];
+            const auto* const text = key->isUnescaped ? unescaped_ + key->link : texts + key->offset;
+            const auto sum = key->size + static_cast<unsigned char>(text[0]) +
+                             static_cast<unsigned char>(text[std::ptrdiff_t{key->size} - 1]) * 11U;
             const auto bit = std::uint64_t{1} << sum % 64;
-            if ((word & bit) != 0)
-                for (auto other = first; other != i; other = Next(other + 1))
-                    if (KeyAt(other) == key)
-                        return FailForDuplicate(other, i);
-            word |= bit;
+            if ((seen & bit) != 0 && !IsNew(first, key))
+                return false;
+            seen |= bit;
+            if (--size == 0)
+                return true;
+            key = IsContainer(key[1]) ? nodes + key[1].link : key + 2;
         }
+    }
+
+    // Whether no key from the first on is equal to the later one; otherwise that is the failure.
+    [[gnu::noinline]] bool IsNew(std::uint32_t first, const TextNode* later)
+    {
+        const auto key = TextOf({text_.data(), unescaped_, nodes_}, *later);
+        for (auto i = first; nodes_ + i != later; i = Next(i + 1))
+            if (nodes_[i].size == key.size() && KeyAt(i) == key)
+                return FailForDuplicate(i, static_cast<std::uint32_t>(later - nodes_));
         return true;
     }
 
@@ -375,8 +394,8 @@ private:
     const TextLimits& limits_;
     const char* cursor_;
     TextNode* nodes_;
-    std::uint32_t count_ = 0;
-    std::uint32_t limit_; // of nodes before something must be looked at
+    TextNode* next_;
+    const TextNode* limit_; // where a limit or the storage must be looked at
     std::uint32_t capacity_;
     std::uint32_t keys_ = 0;
     std::uint32_t open_ = none;
@@ -384,6 +403,7 @@ private:
     std::size_t unescapedSize_ = 0;
     std::size_t unescapedCapacity_;
     std::size_t pending_ = 0; // bytes of the text whose parts come in
+    std::size_t direct_;      // bytes from the beginning in which the parser may find a whole text
     std::optional<TextFailure> failure_;
 };
 
