@@ -49,6 +49,8 @@ function(qiv_add_library name)
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
         VERIFY_INTERFACE_HEADER_SETS ON)
+    target_link_options(${name} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
     # A symbol that no listed dependency defines is found here rather than by the consumer's linker;
     # sanitizers leave their run-time library to the program.
     if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")

@@ -50,6 +50,10 @@ check_library() # FILE, without version
     [[ $dynamic == *"Library soname: [$name.1]"* ]] || fail "$name has another SONAME: $dynamic"
     # Entities know nothing of JSON.
     [[ $name == *Json.so || $dynamic != *libjsoncpp* ]] || fail "$name needs jsoncpp"
+    # Of Boost only headers are used, and nothing of it or of the standard library is offered as ours.
+    [[ $dynamic != *boost* ]] || fail "$name needs Boost"
+    ! nm --dynamic --defined-only --without-symbol-versions "$1" | awk '{ print $3 }' | grep -Ev '3Qiv|^QIV_1$' ||
+        fail "$name exports the names above"
     [[ $dynamic != *TEXTREL* ]] || fail "$name is not position independent"
 }
 
@@ -75,7 +79,7 @@ check_installed() # BUILD
 exported() # LIBRARY
 {
     local string='std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >'
-    nm --dynamic --defined-only --demangle "$1" |
+    nm --dynamic --defined-only --without-symbol-versions --demangle "$1" |
         awk '$2 ~ /[TDBR]/ || /^[0-9a-f]+ [VW] (vtable|typeinfo) for Qiv::/ { sub(/^[0-9a-f]+ . /, ""); print }' |
         sed "s/$string/std::string/g" | grep -F Qiv:: | grep -v '^typeinfo name' | LC_ALL=C sort -u
 }
