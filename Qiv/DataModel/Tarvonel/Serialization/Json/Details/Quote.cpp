@@ -34,8 +34,8 @@ bool IsEscaped(char32_t character) noexcept
 void AppendHexadecimal(std::string& text, const char* before, char32_t value, unsigned digits)
 {
     text += before;
-    while (digits-- > 0)
-        text += "0123456789abcdef"[value >> (4 * digits) & 0xFU];
+    for (; digits != 0; --digits)
+        text += "0123456789abcdef"[value >> (4 * (digits - 1)) & 0xFU];
 }
 
 // The character as it is shown, and how many bytes of the text it takes.

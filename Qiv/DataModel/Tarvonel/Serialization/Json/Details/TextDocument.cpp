@@ -316,7 +316,7 @@ private:
         {
             const auto* const text = key->isUnescaped ? unescaped_ + key->link : texts + key->offset;
             const auto sum = key->size + static_cast<unsigned char>(text[0]) +
-                             static_cast<unsigned char>(text[std::ptrdiff_t{key->size} - 1]) * 11U;
+                             static_cast<unsigned char>(text[static_cast<std::ptrdiff_t>(key->size) - 1]) * 11U;
             const auto bit = std::uint64_t{1} << sum % 64;
             if ((seen & bit) != 0 && !IsNew(first, key))
                 return false;
