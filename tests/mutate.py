@@ -23,6 +23,7 @@ RELATED = {
     "Qiv/TimePoints/": ["TimePointsTests", "ConvertersTests"],
     "Qiv/Common/": ["CommonTests", "ConvertersTests", "InspectionTests"],
     "Qiv/BusinessEntityModel/BaseTypes/": ["BaseTypesTest", "EntitiesTest", "ConvertersTests"],
+    "Qiv/DataModel/Tarvonel/Serialization/Json/(Channels|Documents)/": ["DocumentsTests"],
     "Qiv/DataModel/Tarvonel/Serialization/Json/": ["InspectionTests", "ConvertersTests", "tarvonel-json"],
     "Qiv/.*/Serialization/": ["ConvertersTests", "InspectionTests"],
     "Qiv/": ["EntitiesTest", "ConvertersTests"],
