@@ -1,6 +1,8 @@
 #include <Conversions.h>
 #include <FuzzInput.h>
 
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/HaveEqualContent.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
@@ -9,6 +11,7 @@
 
 using namespace Fuzz;
 using namespace Qiv::DataModel::Tarvonel::Serialization::Json;
+using namespace Qiv::DataModel::Tarvonel::Serialization::Json::Documents;
 
 namespace
 {
@@ -170,6 +173,25 @@ void Exercise(const Conversion<Entity>& conversion, DocumentKind kind, const std
     }
 }
 
+/// A document of whatever kind it names: from text as from a value, and with an opinion only when nothing is lost.
+void ExerciseAny(std::string_view text)
+{
+    Json::Value document;
+    if (!ParseText(text, document))
+        return;
+    const auto findings = InspectDocument(document);
+    const auto fromText = ReadAnyText(text);
+    const auto fromJson = ReadAny(document);
+    Check(fromText.ErrorMessage() == fromJson.ErrorMessage() && fromText.Pointer() == fromJson.Pointer(),
+          "a text is refused as its document is", fromText.ErrorMessage(), fromJson.ErrorMessage());
+    Check(bool(fromText) == (FirstFatal(findings) == nullptr && FirstFailure(findings) == nullptr),
+          "the inspection tells what is refused", fromText.ErrorMessage());
+    Check(!fromText || HaveEqualContent(fromText.Entity(), fromJson.Entity()), "a text is read as its document is");
+    ReadOptions strict;
+    strict.refuse = FindingKinds::All();
+    Check(bool(ReadAnyText(text, strict)) == findings.empty(), "what is taken with an opinion loses nothing");
+}
+
 } // namespace
 
 /// The inspection of any document against the reader, and reading from any text.
@@ -184,6 +206,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     const auto text = copy.Text();
     const auto document = Parse(text, static_cast<Parsing>(flags % 3));
     const bool isFilled = (flags & 4U) != 0;
+    ExerciseAny(text);
     switch (kind)
     {
     case DocumentKind::MediaInput:

@@ -108,7 +108,8 @@ TEST(MetadataValues, KnowProfilesThatNoDocumentMakes)
     EXPECT_EQ(Listed(metadata), "a.b.c=1 ");
     SetMetadataValue(metadata, "a.b.c", "2");
     SetMetadataValue(metadata, "null.x", "3");
-    EXPECT_EQ(Listed(metadata), "a.b.c=2 null.x=3 ");
+    SetMetadataValue(metadata, "qiv.peloperator.index", "0");
+    EXPECT_EQ(Listed(metadata), "a.b.c=2 null.x=3 qiv.peloperator.index=0 ");
 }
 
 TEST(MetadataValues, RefuseWhatNoReaderTakes)

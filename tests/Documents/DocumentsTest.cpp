@@ -157,6 +157,16 @@ TEST(ReadOptions, RefuseWhatTheReaderWouldPassOver)
         EXPECT_EQ(Told(ReadSnapshotText(each.text, recorder, options)), Told(unasked));
         EXPECT_EQ(recorder.Name(), unasked ? "" : "kept");
     }
+    ReadOptions limited;
+    limited.limits.bytes = 10;
+    EXPECT_EQ(Told(ReadAnyText(R"({"_type":"Node","id":"n1"})", limited)),
+              "1:11 : the text has more than 10 bytes, the limit set for it");
+    std::string full = R"({"_type":"Node","id":"n1","chassis":5)";
+    for (std::size_t i = 0; i < mostFindings; ++i)
+        full += ",\"x" + std::to_string(i) + "\":1";
+    ReadOptions wary;
+    wary.refuse = FindingKind::Ignored;
+    EXPECT_EQ(Told(ReadAnyText(full + '}', wary)), "1:1 : there are 100000 findings or more");
     ReadOptions nothingExpected;
     EXPECT_EQ(Told(ReadAnyText(R"({"_type":"Node","id":"n2"})", nothingExpected)), "read");
 }

@@ -27,7 +27,7 @@ struct ReadOptions
 
     /// Findings for which the document is refused, told by the sentence of the first of them. Readers pass over all
     /// but `Failure` and `EndsProcess`, which are refused anyway: a failure that comes before is told instead, by the
-    /// reader's own text.
+    /// reader's own text. A document with `mostFindings` (InspectDocument.h) or more is refused, too.
     FindingKinds refuse;
 
     /// The identifier that the document of a channel or a node may have. Another one is refused; none, or an empty one,

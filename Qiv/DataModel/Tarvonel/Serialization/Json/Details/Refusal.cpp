@@ -45,6 +45,9 @@ TextResult RefusalOfFindings(const std::vector<Finding>& findings, FindingKinds 
         if (refuse.Contains(finding.kind))
             return {finding.sentence, PositionOf(text, finding.offset), finding.pointer};
     }
+    // What is not found for want of room could be what is refused.
+    if (!refuse.IsEmpty() && findings.size() >= mostFindings)
+        return {"there are " + std::to_string(mostFindings) + " findings or more", TextPosition()};
     return {};
 }
 

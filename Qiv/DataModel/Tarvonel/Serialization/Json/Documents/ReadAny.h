@@ -23,7 +23,7 @@ ForText<Text, AnyResult> ReadAny(const Text& text, const ReadOptions& options = 
 /// The same from a text, which is parsed as strictly as by `ReadSnapshotText`:
 ///
 ///     if (const auto result = ReadAnyText(text); !result)
-///         std::cerr << result.Position().line << ": " << result.ErrorMessage() << '\n';
+///         std::cerr << result.Position().line << ": " << result.Sentence() << '\n';
 ///     else if (const auto* const node = std::get_if<Node>(&result.Entity()))
 ///         std::cout << node->HostName() << '\n';
 ///
