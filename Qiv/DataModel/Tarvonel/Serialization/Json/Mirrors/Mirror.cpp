@@ -1,25 +1,30 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Mirrors/Mirror.h>
 
+#include <Qiv/Common/Serialization/Json/Details/ValueView.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/MediaInput.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/MediaOutput.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/Channels/Clone.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Refusal.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/InspectValue.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/ReadDocument.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/HaveEqualContent.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/Write.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/Updates/WriteUpdate.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Mirrors/Details/ChannelProbe.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelForm.h>
 
 #include <istream>
+#include <map>
 #include <ostream>
+#include <string>
 #include <utility>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::Json::Mirrors
 {
 
-using Common::Serialization::Result;
 using Common::Serialization::Json::JsonObject;
 using Common::Serialization::Json::Stringer;
+using Common::Serialization::Json::Details::keyOf;
+using Common::Serialization::Json::Details::ValueView;
+using Json::Details::ReadMode;
+using MediaIOs::Json::Details::ChannelForm;
 using Tarvonel::MediaIOs::MediaInput;
 using Tarvonel::MediaIOs::MediaIO;
 using Tarvonel::MediaIOs::MediaOutput;
@@ -28,6 +33,20 @@ using Tarvonel::Nodes::Node;
 namespace
 {
 
+/// A document, the text that it was parsed from, or none, and how it is to be read.
+struct Source
+{
+    ValueView json;
+    std::string_view text;
+    ReadMode mode;
+    const ReadOptions& options;
+
+    TextResult ReadInto(const ReadTarget& target) const
+    {
+        return Json::Details::ReadDocument(json, text, target, mode, options);
+    }
+};
+
 std::unique_ptr<MediaIO> NewChannel(DocumentKind kind)
 {
     if (kind == DocumentKind::MediaInput)
@@ -35,24 +54,8 @@ std::unique_ptr<MediaIO> NewChannel(DocumentKind kind)
     return std::make_unique<MediaOutput>();
 }
 
-DocumentKind KindOf(const MediaIO& channel)
-{
-    return channel.GetMode() == MediaIO::Mode::Input ? DocumentKind::MediaInput : DocumentKind::MediaOutput;
-}
-
-bool AreSame(const Node& left, const Node& right)
-{
-    return left == right;
-}
-
-bool AreSame(const MediaIO& left, const MediaIO& right)
-{
-    Stringer update;
-    return !Updates::WriteUpdate(left, right, update).HasChanges();
-}
-
 template <typename Entities>
-const auto* Find(const Entities& entities, std::string_view id)
+auto* Find(const Entities& entities, std::string_view id)
 {
     const auto entry = entities.find(id);
     return entry != entities.end() ? entry->second.get() : nullptr;
@@ -78,133 +81,140 @@ std::vector<const Entity*> All(const Entities& entities)
     return all;
 }
 
-/// Puts what has been read in the place of what was there under the identifier.
-template <typename Entities, typename Entity>
-Effect Store(Entities& entities, std::string_view id, std::unique_ptr<Entity> entity)
+Effect EffectOf(bool hasChanged)
 {
-    const auto place = entities.lower_bound(id);
-    if (place == entities.end() || place->first != id)
-    {
-        entities.emplace_hint(place, id, std::move(entity));
-        return Effect::Created;
-    }
-    const auto effect = AreSame(*place->second, *entity) ? Effect::Unchanged : Effect::Changed;
-    place->second = std::move(entity);
-    return effect;
+    return hasChanged ? Effect::Changed : Effect::Unchanged;
 }
 
 } // namespace
 
-Mirror::Mirror() = default;
+class Mirror::State
+{
+public:
+    ApplyResult Apply(const Source& source)
+    {
+        const auto kind = Json::Details::KindOfValue(source.json);
+        if (!kind)
+        {
+            MediaInput nothing; // reading a channel of no kind fails without taking anything from it
+            return {source.ReadInto(nothing), std::nullopt, {}};
+        }
+        const auto refused = [&](std::string message) {
+            return ApplyResult({std::move(message), PositionOf(source.text, source.json.Offset())}, kind, {});
+        };
+        if (*kind != DocumentKind::Node && *kind != DocumentKind::MediaInput && *kind != DocumentKind::MediaOutput)
+            return refused("a mirror keeps nodes and channels, and this is a " + std::string(ToString(*kind)));
+        auto id = std::string(source.json.Find(keyOf<ChannelForm::id>).Text().value_or("")); // a node's key is the same
+        if (id.empty())
+            return refused("the document has no identifier");
+
+        auto effect = Effect::Refused;
+        auto result =
+            *kind == DocumentKind::Node ? ApplyToNode(source, id, effect) : ApplyToChannel(source, *kind, id, effect);
+        if (!result)
+            return {std::move(result), kind, std::move(id)};
+        return {*kind, std::move(id), effect};
+    }
+
+    ApplyResult ApplyText(std::string_view text, ReadMode mode, const ReadOptions& options)
+    {
+        Json::Details::TextDocument document;
+        if (auto failure = Json::Details::ParseFor(options, text, document); !failure)
+            return {std::move(failure), std::nullopt, {}};
+        return Apply({ValueView(document.Nodes(), document.Root()), text, mode, options});
+    }
+
+    std::map<std::string, std::unique_ptr<Node>, std::less<>> nodes;
+    std::map<std::string, std::unique_ptr<MediaIO>, std::less<>> channels;
+
+private:
+    TextResult ApplyToNode(const Source& source, const std::string& id, Effect& effect)
+    {
+        auto node = std::make_unique<Node>();
+        if (auto result = source.ReadInto(*node); !result)
+            return result;
+        auto& place = nodes[id];
+        effect = place == nullptr ? Effect::Created : EffectOf(*place != *node);
+        place = std::move(node);
+        return {};
+    }
+
+    TextResult ApplyToChannel(const Source& source, DocumentKind kind, const std::string& id, Effect& effect)
+    {
+        auto* const existing = Find(channels, id);
+        if (existing != nullptr && source.mode == ReadMode::Merge)
+        {
+            const Details::ChannelProbe probe(source.json, *existing);
+            auto result = source.ReadInto(*existing);
+            if (result)
+                effect = EffectOf(probe.HasChanged(*existing));
+            return result;
+        }
+
+        auto channel = NewChannel(existing == nullptr                           ? kind
+                                  : existing->GetMode() == MediaIO::Mode::Input ? DocumentKind::MediaInput
+                                                                                : DocumentKind::MediaOutput);
+        if (auto result = source.ReadInto(*channel); !result)
+            return result;
+        effect = existing == nullptr ? Effect::Created : EffectOf(!Documents::HaveEqualContent(*existing, *channel));
+        channels[id] = std::move(channel);
+        return {};
+    }
+};
+
+Mirror::Mirror() : state_(std::make_unique<State>()) {}
 Mirror::Mirror(Mirror&&) noexcept = default;
 Mirror& Mirror::operator=(Mirror&&) noexcept = default;
 Mirror::~Mirror() = default;
 
 ApplyResult Mirror::Apply(const JsonObject& document, const ReadOptions& options)
 {
-    return ApplyDocument(document, {}, ReadMode::Merge, options);
+    return state_->Apply({document, {}, ReadMode::Merge, options});
 }
 
 ApplyResult Mirror::ApplySnapshot(const JsonObject& document, const ReadOptions& options)
 {
-    return ApplyDocument(document, {}, ReadMode::Snapshot, options);
+    return state_->Apply({document, {}, ReadMode::Snapshot, options});
 }
 
-ApplyResult Mirror::ApplyText(std::string_view text, ReadMode mode, const ReadOptions& options)
+ApplyResult Mirror::ApplyText(std::string_view text, const ReadOptions& options)
 {
-    JsonObject document;
-    if (auto result = ParseText(text, document); !result)
-    {
-        if (options.findings != nullptr)
-            options.findings->clear();
-        return {std::move(result), std::nullopt, {}};
-    }
-    return ApplyDocument(document, text, mode, options);
+    return state_->ApplyText(text, ReadMode::Merge, options);
 }
 
-ApplyResult Mirror::ApplyDocument(const JsonObject& document, std::string_view text, ReadMode mode,
-                                  const ReadOptions& options)
+ApplyResult Mirror::ApplySnapshotText(std::string_view text, const ReadOptions& options)
 {
-    const auto kind = Json::KindOf(document);
-    const auto id = IdOf(document);
-
-    const auto refused = [&](std::string message, const Finding& finding = {})
-    {
-        const auto offset = finding.pointer.empty() ? document.getOffsetStart() : finding.offset;
-        return ApplyResult(TextResult(std::move(message), PositionOf(text, offset), finding.pointer), kind,
-                           std::string(id));
-    };
-    const auto failed = [&](const std::vector<Finding>& found, const std::string& message)
-    {
-        const auto* const failure = FirstFailure(found);
-        return refused(message, failure != nullptr ? *failure : Finding());
-    };
-
-    if (auto refusal = Details::RefusalOf(document, kind.value_or(DocumentKind::MediaInput), options, text); !refusal)
-        return {std::move(refusal), kind, std::string(id)};
-    if (!kind)
-    {
-        MediaInput nothing; // fails without taking anything, and tells why
-        return failed(InspectDocument(document), MergeWhole(document, nothing).ErrorMessage());
-    }
-    if (*kind != DocumentKind::Node && *kind != DocumentKind::MediaInput && *kind != DocumentKind::MediaOutput)
-        return refused("a mirror keeps nodes and channels, and this is a " + std::string(ToString(*kind)));
-    if (id.empty())
-        return refused("the document has no identifier");
-
-    if (*kind == DocumentKind::Node)
-    {
-        auto node = std::make_unique<Node>();
-        if (const auto result = ReadSnapshot(document, *node); !result)
-            return failed(InspectDocument(document, *kind), result.ErrorMessage());
-        const auto effect = Store(nodes_, id, std::move(node));
-        return {*kind, std::string(id), effect};
-    }
-
-    const auto* const existing = FindChannel(id);
-    const auto targetKind = existing != nullptr ? KindOf(*existing) : *kind;
-    if (targetKind == DocumentKind::MediaOutput) // of others nothing ends the process
-    {
-        const auto found = InspectDocument(document, targetKind);
-        if (const auto* const fatal = FirstFatal(found))
-            return refused(fatal->sentence, *fatal);
-    }
-    auto channel =
-        existing != nullptr && mode == ReadMode::Merge ? Json::Channels::Clone(*existing) : NewChannel(targetKind);
-    if (const auto result = MergeWhole(document, *channel); !result)
-        return failed(InspectDocument(document, targetKind), result.ErrorMessage());
-    const auto effect = Store(channels_, id, std::move(channel));
-    return {*kind, std::string(id), effect};
+    return state_->ApplyText(text, ReadMode::Snapshot, options);
 }
 
 const MediaIO* Mirror::FindChannel(std::string_view id) const
 {
-    return Find(channels_, id);
+    return Find(state_->channels, id);
 }
 
 const Node* Mirror::FindNode(std::string_view id) const
 {
-    return Find(nodes_, id);
+    return Find(state_->nodes, id);
 }
 
 bool Mirror::RemoveChannel(std::string_view id)
 {
-    return Remove(channels_, id);
+    return Remove(state_->channels, id);
 }
 
 bool Mirror::RemoveNode(std::string_view id)
 {
-    return Remove(nodes_, id);
+    return Remove(state_->nodes, id);
 }
 
 std::vector<const MediaIO*> Mirror::Channels() const
 {
-    return All<MediaIO>(channels_);
+    return All<MediaIO>(state_->channels);
 }
 
 std::vector<const Node*> Mirror::Nodes() const
 {
-    return All<Node>(nodes_);
+    return All<Node>(state_->nodes);
 }
 
 void Mirror::WriteAll(std::ostream& stream) const
@@ -219,8 +229,8 @@ void Mirror::WriteAll(std::ostream& stream) const
             stream.write(line.data(), static_cast<std::streamsize>(line.size()));
         }
     };
-    writeAll(nodes_);
-    writeAll(channels_);
+    writeAll(state_->nodes);
+    writeAll(state_->channels);
 }
 
 Mirror::LineCounts Mirror::ReadAll(std::istream& stream,

@@ -11,9 +11,7 @@
 #include <cstddef>
 #include <functional>
 #include <iosfwd>
-#include <map>
 #include <memory>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -37,12 +35,14 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Mirrors
 /// where a reader would fail.
 ///
 /// Any number of threads may use the const operations at once, or one thread the others. There are no observers: what
-/// has happened is in the return value. Throws nothing but std::bad_alloc, after which nothing has changed.
+/// has happened is in the return value. Throws nothing but std::bad_alloc; the document is applied whole or not at all
+/// then, too.
 class QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Mirror
 {
 public:
     Mirror();
     Mirror(const Mirror&) = delete;
+    /// A moved-from mirror can be assigned to and destroyed, and nothing else.
     Mirror(Mirror&&) noexcept;
     Mirror& operator=(const Mirror&) = delete;
     Mirror& operator=(Mirror&&) noexcept;
@@ -56,7 +56,7 @@ public:
     template <typename Text>
     ForText<Text, ApplyResult> Apply(const Text& text, const ReadOptions& options = {})
     {
-        return ApplyText(text, ReadMode::Merge, options);
+        return ApplyText(text, options);
     }
 
     /// The same, but what the document does not have is at its default afterwards.
@@ -64,7 +64,7 @@ public:
     template <typename Text>
     ForText<Text, ApplyResult> ApplySnapshot(const Text& text, const ReadOptions& options = {})
     {
-        return ApplyText(text, ReadMode::Snapshot, options);
+        return ApplySnapshotText(text, options);
     }
 
     /// The entity with an identifier, null when there is none; valid until the mirror is changed.
@@ -98,20 +98,12 @@ public:
                        const std::function<void(std::size_t line, const ApplyResult& result)>& onLine = {});
 
 private:
-    enum class ReadMode
-    {
-        Merge,
-        Snapshot
-    };
-    ApplyResult ApplyText(std::string_view text, ReadMode mode, const ReadOptions& options);
-    ApplyResult ApplyDocument(const Common::Serialization::Json::JsonObject& document, std::string_view text,
-                              ReadMode mode, const ReadOptions& options);
+    class State;
 
-    using NodesById = std::map<std::string, std::unique_ptr<Tarvonel::Nodes::Node>, std::less<>>;
-    using ChannelsById = std::map<std::string, std::unique_ptr<Tarvonel::MediaIOs::MediaIO>, std::less<>>;
+    ApplyResult ApplyText(std::string_view text, const ReadOptions& options);
+    ApplyResult ApplySnapshotText(std::string_view text, const ReadOptions& options);
 
-    NodesById nodes_;
-    ChannelsById channels_;
+    std::unique_ptr<State> state_; // null when moved from
 };
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Mirrors

@@ -280,6 +280,8 @@ bool IsShownAfterMerging(const EditorialMetadata& before, const EditorialMetadat
 
 void WriteMetadata(const EditorialMetadata& before, const EditorialMetadata& after, Update& update)
 {
+    if (before == after)
+        return;
     const auto hadChanges = update.hasChanges;
     const auto omissionsBefore = update.omissions.size();
     const bool hasWritten = WriteDifferences(before, after, update);
