@@ -32,7 +32,8 @@ public:
 
     /// The differences that the update does not have, since merging cannot bring them about; in the order of the
     /// document's members.
-    const std::vector<Omission>& Omissions() const noexcept { return omissions_; }
+    const std::vector<Omission>& Omissions() const& noexcept { return omissions_; }
+    std::vector<Omission> Omissions() && noexcept { return std::move(omissions_); }
 
 private:
     std::string errorMessage_;
