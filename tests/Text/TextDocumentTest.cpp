@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cfenv>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
@@ -40,7 +41,8 @@ void* operator new(std::size_t size)
     return block + header;
 }
 
-void operator delete(void* block) noexcept
+// Not inlined: g++ takes the size before the block for a mistake.
+[[gnu::noinline]] void operator delete(void* block) noexcept
 {
     if (block == nullptr)
         return;
@@ -50,6 +52,22 @@ void operator delete(void* block) noexcept
 }
 
 void operator delete(void* block, std::size_t) noexcept
+{
+    operator delete(block);
+}
+
+// Those of the address sanitizer do not call the ones above.
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+
+void operator delete[](void* block) noexcept
+{
+    operator delete(block);
+}
+
+void operator delete[](void* block, std::size_t) noexcept
 {
     operator delete(block);
 }
@@ -187,8 +205,8 @@ TEST(TextDocument, FindsAKeyTwiceAmongMany)
         for (const bool collide : {false, true})
         {
             std::vector<std::string> keys;
-            for (unsigned i = 0; keys.size() < size; ++i)
-                if (auto key = std::to_string(i * 7919U); !collide || std::hash<std::string>()(key) % 8192 < 64)
+            for (std::uint64_t i = 0; keys.size() < size; ++i)
+                if (auto key = std::to_string(i * 7919); !collide || std::hash<std::string>()(key) % 8192 < 64)
                     keys.push_back(std::move(key));
             EXPECT_EQ(Parsed(object(keys)), "read") << size;
             const auto first = random() % (size - 1);
