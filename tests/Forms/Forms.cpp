@@ -137,7 +137,7 @@ void AddDocuments(JsonValue& documents, const std::string& full)
     documents["tests/cases/documents.json"].append(Parse(full));
     Entity entity{};
     Fuzz::Fill(entity);
-    documents["Fill in fuzz/Entities.cpp"].append(Parse(Written(entity)));
+    documents["Fill in fuzz/Entities.cpp, as written"].append(Parse(Written(entity)));
     const auto tag = Parse(full)["_type"].asString();
     if (!Survives<Entity>(full))
         std::cerr << "Survival in fuzz/Entities.cpp does not know all texts of " << tag << '\n';

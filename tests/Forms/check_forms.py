@@ -31,7 +31,7 @@ def read(name):
 def expect(file, found, expected):
     for *where, last in sorted(found ^ expected):
         state = "lacks" if (*where, last) in expected else "has, but the forms lack,"
-        wrong.append(f"{file}: {' '.join(where)} {state} \"{last}\"")
+        wrong.append(" ".join((f"{file}:", *where, state, last)))
 
 
 def occurring(value, name=""):
@@ -90,10 +90,13 @@ for file, values in documents.items():
     else:
         expect(file, {fact for fact in found if len(fact) == 2}, written)
 
-# The dictionary, with a key of metadata and an origin that ends the process.
-words = {(f'"{key}":',) for _, key in members} | {(f'"{text}"',) for *_, text in texts} | {('"a.b":',), ('"Absolute"',)}
-found = re.findall(r'^"\\"([\w.]+)\\"(:?)"$', read("fuzz/tokens.dict"), re.M)
-expect("fuzz/tokens.dict", {(f'"{word}"{colon}',) for word, colon in found}, words)
+# The dictionary for libFuzzer, most of which is made of the schema.
+words = {(f'"{key}":',) for _, key in members} | {(f'"{text}"',) for *_, text in texts}
+made = subprocess.check_output([sys.executable, f"{root}/fuzz/make_dictionary.py",
+                                f"{root}/schema/documents.schema.json"], encoding="utf-8")
+found = re.findall(r'^"\\"([\w.]+)\\"(:?)"$', made + read("fuzz/tokens.dict"), re.M)
+expect("fuzz/tokens.dict", {(f'"{word}"{colon}',) for word, colon in found},
+       words | {('"a.b":',), ('"Absolute"',)})  # a key of metadata, and an origin that ends the process
 
 print(*wrong, f"{len(members)} members and {len(texts)} texts", sep="\n")
 sys.exit(bool(wrong) or len(texts) < 30)

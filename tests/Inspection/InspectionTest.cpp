@@ -223,7 +223,9 @@ void CheckKind(DocumentKind kind, const std::string& rule, const std::string& fu
             const auto parent = pointer.substr(0, pointer.rfind('/'));
             const auto concerns = [&pointer = pointer, &parent](const Finding& finding)
             {
-                return IsAtOrBelow(finding.pointer, pointer) || IsAtOrBelow(pointer, finding.pointer) ||
+                return IsAtOrBelow(finding.pointer, pointer) ||
+                       // Another "_type" than the reader expects may make it skip the whole object.
+                       IsAtOrBelow(pointer, finding.pointer.substr(0, finding.pointer.rfind("/_type"))) ||
                        (!parent.empty() && IsAtOrBelow(finding.pointer, parent));
             };
             const auto without = Without(document, keys);
