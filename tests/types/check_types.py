@@ -18,8 +18,6 @@ import jsonschema
 
 root = sys.argv[1]
 schema_file = f"{root}/schema/documents.schema.json"
-TSC = ("/usr/bin/nodejs", "/usr/share/nodejs/typescript/lib/tsc.js", "--strict", "--target", "es2020", "--module",
-       "commonjs")
 # What only the numbers and the letters of a value decide, types do not see.
 UNSEEN = re.compile(r"(pattern|minimum|maximum|multipleOf) |\w+ /metadata")
 
@@ -106,26 +104,25 @@ if missing and not wrong:
 cases = json.loads(read("tests/cases/Schema.json"))["cases"]
 typed = [(document, None) for document in examples + made[:100]]
 typed += [(case["document"], case.get("fault")) for case in cases]
+shown = re.findall(r"^```(ts|python)\n(.*?)^```\n\n```text\n(.*?)^```$", read("docs/integrators.md"), re.M | re.S)
+sources = {f"shown.{language}": code for language, code, _ in shown}
+sources["typed.ts"] = 'import { Document } from "./documents";' + "".join(
+    f"const _{number}: Document = {json.dumps(document)};\n" for number, (document, _) in enumerate(typed))
 with tempfile.TemporaryDirectory() as folder:
-    with open(f"{folder}/typed.ts", "w", encoding="utf-8") as file:
-        file.write(f'import {{ Document }} from "{os.path.abspath(root)}/schema/documents";')
-        file.writelines(f"const _{number}: Document = {json.dumps(document)};\n"
-                        for number, (document, _) in enumerate(typed))
-    complaints = run(*TSC, "--noEmit", f"{folder}/typed.ts")
-
     for name in ("documents.d.ts", "documents.schema.json"):
         shutil.copy(f"{root}/schema/{name}", folder)
-    shown = re.findall(r"^```(ts|python)\n(.*?)^```\n\n```text\n(.*?)^```$", read("docs/integrators.md"), re.M | re.S)
-    for language, code, output in shown:
-        with open(f"{folder}/shown.{language}", "w", encoding="utf-8") as file:
+    for name, code in sources.items():
+        with open(f"{folder}/{name}", "w", encoding="utf-8") as file:
             file.write(code)
-        written = run(*TSC, "shown.ts", cwd=folder) if language == "ts" else ""
-        command = ("/usr/bin/nodejs", "shown.js") if language == "ts" else (sys.executable, "shown.python")
-        written += run(*command, cwd=folder)
-        if written != output:
-            wrong.append(f"the {language} code of docs/integrators.md writes {written}")
-    if len(shown) != 2:
-        wrong.append("docs/integrators.md shows other code")
+    complaints = run("/usr/bin/nodejs", "/usr/share/nodejs/typescript/lib/tsc.js", "--strict", "--target", "es2020",
+                     "--module", "commonjs", "typed.ts", "shown.ts", cwd=folder)
+    written = {"ts": run("/usr/bin/nodejs", "shown.js", cwd=folder),
+               "python": run(sys.executable, "shown.python", cwd=folder)}
+for language, _, output in shown:
+    if written.pop(language) != output or f"shown.{language}" in complaints:
+        wrong.append(f"the {language} code of docs/integrators.md writes something else")
+if written:
+    wrong.append("docs/integrators.md shows other code")
 refused = {int(line) - 1 for line in re.findall(r"typed\.ts\((\d+),", complaints)}
 if len(refused) < 10 or "documents.d.ts" in complaints:
     wrong.append(f"tsc: {complaints}")
