@@ -37,6 +37,7 @@ check()
     folder=$(baselines "$1")
     for library in "$1"/lib/lib*.so; do
         old=$folder/$(basename "$library" .so).abi
+        [[ -e $old.xz ]] || { echo "$old.xz is missing: ./run symbols" >&2 && return 1; }
         xz -dc "$old.xz" >"$scratch/old" && interface "$library" "$here/../../Qiv" >"$scratch/new" || return 1
         if ! compare "$scratch/old" "$scratch/new"; then
             echo "$(basename "$library") has another binary interface; if that is meant: ./run symbols" >&2
