@@ -11,7 +11,6 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
 namespace
 {
 
-
 struct Range
 {
     char32_t first;
