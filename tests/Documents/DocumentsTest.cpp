@@ -6,8 +6,8 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
 
-#include "ExampleDocuments.h"
-#include "ThrownText.h"
+#include <CaseFiles.h>
+#include <ThrownText.h>
 
 #include <gtest/gtest.h>
 
@@ -35,158 +35,91 @@ std::string Told(const TextResult& result)
                         result.Pointer() + ": " + result.ErrorMessage();
 }
 
-} // namespace
-
-TEST(AnyDocument, ComesBackAsItIsWritten)
+// Reads a text into what holds something else.
+template <typename Channel>
+void CheckChannel(const std::string& text, const ReadOptions& options, const std::string& told)
 {
-    for (const auto& text : ExampleDocuments())
-    {
-        SCOPED_TRACE(text);
-        JsonObject json;
-        ASSERT_TRUE(ParseText(text, json));
-        const auto fromText = ReadAnyText(text);
-        const auto fromJson = ReadAny(json);
-        ASSERT_EQ(Told(fromText), "read");
-        ASSERT_EQ(Told(fromJson), "read");
-        EXPECT_EQ(ToText(fromText.Entity()), text);
-        EXPECT_EQ(ToText(fromJson.Entity()), text);
-        EXPECT_EQ(KindOf(fromText.Entity()), KindOf(json));
-        EXPECT_EQ(IdOf(fromText.Entity()).Value(), IdOf(json));
-        EXPECT_EQ(IdOf(json), json.get("id", "").asString()) << "no example has an identifier that is not its own";
-        JsonObject pretty;
-        ASSERT_TRUE(ParseText(ToText(fromText.Entity(), Layout::Pretty), pretty));
-        EXPECT_EQ(pretty, json);
-        if (const auto* const channel = ChannelOf(fromText.Entity()))
-        {
-            EXPECT_EQ(ToText(*channel), text);
-        }
-    }
+    Channel channel;
+    channel.Name("kept");
+    EXPECT_EQ(Told(MergeText(text, channel, options)), told);
+    EXPECT_EQ(Told(ReadSnapshotText(text, channel, options)), told);
+    EXPECT_EQ(channel.Name() == "kept", told != "read");
 }
 
-TEST(AnyDocument, IsRefusedWithTheReadersTextAndItsPlace)
+void CheckAnyKind(const Case& each)
 {
-    const std::pair<const char*, const char*> cases[] = {
-        {"{\"_type\":", "1:10 : "},
-        {"{}", "1:1 : MediaIO is empty"},
-        {"[]", "1:1 : MediaIO is empty"},
-        {R"({"id":"x"})", "1:1 : Invalid JSON type (undefined)"},
-        {R"({"_type":"TimePoint","value":"1"})",
-         "1:10 /_type: Invalid JSON type ('TimePoint') : 'MediaInput' or 'MediaOutput' expected"},
-        {"{\"_type\":\"MediaOutput\",\n \"speedOnAir\":{}}", "2:15 /speedOnAir: Speed is empty"},
-        {R"({"_type":"Node"})", "1:1 : Node has no identifier (required)"},
-        {R"({"_type":"BoundaryRelative","origin":"Absolute"})",
-         "1:38 /origin: \"Absolute\" is the origin of a relative boundary, which ends the process"},
-        {R"({"_type":"MediaOutput","currentTimePointOnAir":{"_type":"TimePoint","value":"now"}})",
-         "1:77 /currentTimePointOnAir/value: \"now\" does not begin with a number, which ends the process"},
-        // A player's members in a document of another kind: nothing reads them.
-        {R"({"_type":"MediaInput","currentTimePointOnAir":{"_type":"TimePoint","value":"now"}})", "read"},
-    };
-    for (const auto& [text, told] : cases)
+    ReadOptions options;
+    options.expectedId = each.Text("expectedId");
+    for (const auto& name : each.List("refuse"))
+        for (const auto kind : {FindingKind::UnknownMember, FindingKind::Ignored, FindingKind::WrongType,
+                                FindingKind::InvalidValue, FindingKind::EndsProcess})
+            if (name == "\"all\"" || name == '"' + std::string(ToString(kind)) + '"')
+                options.refuse = options.refuse | (name == "\"all\"" ? FindingKinds::All() : kind);
+    const auto found = each.Has("found") ? each["found"].asUInt() : 0;
+    for (const auto& text : each.Documents())
     {
-        const auto result = ReadAnyText(text);
-        EXPECT_EQ(Told(result).substr(0, std::string(told).size()), told) << text;
+        const auto result = ReadAnyText(text, options);
+        const auto told = Told(result);
+        EXPECT_EQ(told, each.Has("message") ? each["line"].asString() + ':' + each["column"].asString() + ' ' +
+                                                  each.Text("pointer") + ": " + each.Text("message")
+                                            : "read");
+        std::vector<Finding> findings(7);
+        auto asking = options;
+        asking.findings = &findings;
+        EXPECT_EQ(Told(ReadAnyText(text, asking)), told);
+        EXPECT_EQ(findings.size(), found);
+        asking.maximumFindings = 1;
+        EXPECT_EQ(Told(ReadAnyText(text, asking)), told);
+        EXPECT_EQ(findings.size(), std::min(found, 1U));
         JsonObject json;
         if (!ParseText(text, json))
             continue;
-        const auto fromJson = ReadAny(json);
-        EXPECT_EQ(fromJson.ErrorMessage(), result.ErrorMessage()) << text;
-        EXPECT_EQ(fromJson.Pointer(), result.Pointer()) << text;
+        const auto fromJson = ReadAny(json, options);
+        EXPECT_EQ(fromJson.ErrorMessage(), result.ErrorMessage());
+        EXPECT_EQ(fromJson.Pointer(), result.Pointer());
+        if (KindOf(json) == DocumentKind::MediaInput)
+            CheckChannel<MediaInput>(text, options, told);
+        if (KindOf(json) == DocumentKind::MediaOutput)
+            CheckChannel<MediaOutput>(text, options, told);
+        if (found != 0 || !result)
+            continue;
+        EXPECT_EQ(ToText(fromJson.Entity()), ToText(result.Entity()));
+        EXPECT_EQ(Parse(ToText(result.Entity(), Layout::Pretty)), Parse(ToText(result.Entity())));
+        EXPECT_EQ(KindOf(result.Entity()), KindOf(json));
+        EXPECT_EQ(IdOf(result.Entity()).Value(), IdOf(json));
+        EXPECT_EQ(IdOf(json), json.get("id", "").asString());
     }
-    for (const auto* const notAnObject : {"null", "1", "\"{}\""}) // which ParseText lets nobody have
-        EXPECT_EQ(ReadAny(JsonObject(notAnObject)).ErrorMessage(), "MediaIO is empty");
-    EXPECT_THROW(ReadAnyText("{}").Entity(), std::bad_optional_access);
 }
 
-TEST(ReadOptions, RefuseWhatTheReaderWouldPassOver)
+const bool areRegistered = RegisterCases("texts/AnyKind.json", CheckAnyKind);
+
+} // namespace
+
+TEST(ReadAny, RefusesValuesThatNoTextIs)
 {
-    constexpr auto all = FindingKinds::All();
-    constexpr FindingKinds two{FindingKind::UnknownMember, FindingKind::WrongType};
-    const struct
+    for (const auto* const text : {"null", "1", "\"{}\""})
+        EXPECT_EQ(ReadAny(Parse(text)).ErrorMessage(), "MediaIO is empty") << text;
+    EXPECT_THROW(ReadAnyText("{}").Entity(), std::bad_optional_access);
+    for (const auto* const text :
+         {R"({"id":"n"})", R"({"_type":"Node","id":7})", R"({"_type":"Speed","id":"n"})", "[]"})
     {
-        const char* text;
-        FindingKinds refuse;
-        const char* told;
-        std::size_t findings;
-    } cases[] = {
-        {R"({"_type":"Node","id":"n1"})", all, "read", 0},
-        {R"({"_type":"Node","id":"n1","x":1})", {}, "read", 1},
-        {R"({"_type":"Node","id":"n1","x":1})", all, "1:31 /x: \"x\" is no member of Node; it is skipped", 1},
-        {R"({"_type":"Node","id":"n1","x":1})", FindingKind::WrongType, "read", 1},
-        {"{\"_type\":\"Node\",\"id\":\"n1\",\"x\":1,\n\"chassis\":6}", two,
-         "2:11 /chassis: is an integer of 32 bits, where a string belongs; it is skipped", 2},
-        // Failures are told in the reader's order, and by its text.
-        {R"({"_type":"MediaInput","lastTimePoint":5,"x":1})", all, "1:39 /lastTimePoint: TimePoint is empty", 2},
-        {R"({"_type":"MediaInput","recordingStatus":"?","lastTimePoint":5})", all,
-         "1:41 /recordingStatus: \"?\" is none of Idle, Pause, Recording; it is read as Idle", 2},
-        {R"({"_type":"BoundaryRelative","origin":"Absolute"})", FindingKind::EndsProcess,
-         "1:38 /origin: \"Absolute\" is the origin of a relative boundary, which ends the process", 1},
-        {R"({"_type":"MediaInput","id":"n1","name":7})", {}, "read", 1},
-        // Another identifier than "n1", which is expected.
-        {R"({"_type":"Node","id":"n2","x":1})", {}, R"(1:22 /id: "n2" is another identifier than "n1")", 1},
-        {R"({"_type":"MediaInput","id":"n1\u0000"})", {}, R"(1:28 /id: "n1\u0000" is another identifier than "n1")", 1},
-        {R"({"_type":"Node","id":""})", {}, "read", 0},
-        {R"({"_type":"MediaOutput"})", {}, "read", 0},
-        {R"({"_type":"MediaOutput","id":2})", {}, "read", 1},
-        {R"({"_type":"Speed","id":"n2"})", {}, "read", 1},
-        {"{", all, "1:2 : ", 0},
-    };
-    std::vector<Finding> findings;
-    for (const auto& each : cases)
-    {
-        SCOPED_TRACE(each.text);
-        ReadOptions options;
-        options.refuse = each.refuse;
-        options.expectedId = "n1";
-        const auto unasked = ReadAnyText(each.text, options);
-        EXPECT_EQ(Told(unasked).substr(0, std::string(each.told).size()), each.told);
-        options.findings = &findings;
-        EXPECT_EQ(Told(ReadAnyText(each.text, options)), Told(unasked));
-        EXPECT_EQ(findings.size(), each.findings);
-        options.maximumFindings = 1;
-        EXPECT_EQ(Told(ReadAnyText(each.text, options)), Told(unasked));
-        EXPECT_EQ(findings.size(), std::min<std::size_t>(each.findings, 1));
-        JsonObject json;
-        if (!ParseText(each.text, json))
-            continue;
-        EXPECT_EQ(ReadAny(json, options).ErrorMessage(), unasked.ErrorMessage());
-        if (KindOf(json) != DocumentKind::MediaInput)
-            continue;
-        MediaInput recorder;
-        recorder.Name("kept");
-        EXPECT_EQ(Told(MergeText(each.text, recorder, options)), Told(unasked));
-        EXPECT_EQ(Told(ReadSnapshotText(each.text, recorder, options)), Told(unasked));
-        EXPECT_EQ(recorder.Name(), unasked ? "" : "kept");
+        const auto json = Parse(text);
+        EXPECT_EQ(IdOf(json), "") << text;
     }
-    ReadOptions limited;
-    limited.limits.bytes = 10;
-    EXPECT_EQ(Told(ReadAnyText(R"({"_type":"Node","id":"n1"})", limited)),
+}
+
+TEST(ReadOptions, BoundTextsAndFindings)
+{
+    ReadOptions options;
+    options.limits.bytes = 10;
+    EXPECT_EQ(Told(ReadAnyText(R"({"_type":"Node","id":"n1"})", options)),
               "1:11 : the text has more than 10 bytes, the limit set for it");
-    std::string full = R"({"_type":"Node","id":"n1","chassis":5)";
+    std::string full = R"({"_type":"Node","id":"n1")";
     for (std::size_t i = 0; i < mostFindings; ++i)
         full += ",\"x" + std::to_string(i) + "\":1";
-    ReadOptions wary;
-    wary.refuse = FindingKind::Ignored;
-    EXPECT_EQ(Told(ReadAnyText(full + '}', wary)), "1:1 : there are 100000 findings or more");
-    ReadOptions nothingExpected;
-    EXPECT_EQ(Told(ReadAnyText(R"({"_type":"Node","id":"n2"})", nothingExpected)), "read");
-}
-
-TEST(AnyDocument, HasAnIdentifierOnlyWhereAReaderTakesOne)
-{
-    const std::pair<const char*, const char*> cases[] = {
-        {R"({"_type":"Node","id":"n"})", "n"},
-        {R"({"_type":"Node","id":7})", ""},
-        {R"({"_type":"Node"})", ""},
-        {R"({"_type":"Speed","id":"n"})", ""},
-        {R"({"id":"n"})", ""},
-        {"[]", ""},
-    };
-    for (const auto& [text, id] : cases)
-    {
-        JsonObject json;
-        ASSERT_TRUE(ParseText(text, json));
-        EXPECT_EQ(IdOf(json), id) << text;
-    }
+    options = ReadOptions();
+    options.refuse = FindingKind::Ignored; // of which there is none
+    EXPECT_EQ(Told(ReadAnyText(full + '}', options)), "1:1 : there are 100000 findings or more");
 }
 
 namespace

@@ -27,6 +27,12 @@ public:
         return all;
     }
 
+    constexpr FindingKinds operator|(FindingKinds other) const noexcept
+    {
+        other.bits_ |= bits_;
+        return other;
+    }
+
     constexpr bool IsEmpty() const noexcept { return bits_ == 0; }
     constexpr bool Contains(FindingKind kind) const noexcept { return (bits_ & Bit(kind)) != 0; }
 
