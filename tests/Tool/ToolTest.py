@@ -78,10 +78,11 @@ class Tool(unittest.TestCase):
         key = json.dumps(bad * 200)
         documents = [f'{{"_type":{key}}}', f'{{"_type":"Node","id":"n1",{key}:1}}', f'{{{key}:1,{key}:2}}',
                      f'{{"_type":"MediaInput","lastTimePoint":{{"_type":{key}}}}}', '{"_type":"\x1b"}',
-                     '{"_type":"MediaInput","id":"\udcff"}']
+                     '{"_type":"MediaInput","id":"\udcff"}',
+                     '{"_type":"Node","id":"n1","a' + "\U0001f600" * 500 + '":1}']
         line_of_text = r"\A\S[^\x00-\x1f\x7f-\x9f\u061c\u200f\u2028\u2029\u202e\u2069\ufeff]*\n\Z"
         with tempfile.TemporaryDirectory() as folder:
-            name = (folder + "/\x1b]0;" + bad.replace("/", "")).encode() + b"\xff\xc0\xaf"
+            name = (folder + "/\x1b]0;" + bad).encode() + b"\xff\xc0\xaf\xed\xa0\x80\xf4\x90\x80\x80\xe2\x82"
             for document in documents:
                 with open(name, "wb") as file:
                     file.write(document.encode(errors="surrogateescape"))
@@ -93,7 +94,8 @@ class Tool(unittest.TestCase):
                         self.assertNotRegex(line, "^FAKE")
             findings = json.loads(run("check", "--output", "json", text=documents[1])[1])
             self.assertEqual(findings[0]["pointer"], "/" + bad * 200)
-        for arguments in [[bad], ["convert", "-" + bad], ["convert", bad], ["check", "--fail-on", bad], ["timecode", bad]]:
+        for arguments in ([bad], ["convert", "-" + bad], ["convert", bad], ["check", "--output", bad],
+                          ["timecode", bad], ["help", bad]):
             error = run(*arguments)[2]
             self.assertRegex(error, r"\A(tarvonel-json: [ -~]+\n)+\Z")
         # Escapes keep the meaning of what is written.
@@ -131,7 +133,8 @@ class Tool(unittest.TestCase):
         text = NODE + "\r\n[" + " " * (64 << 20) + "\n" + NODE
         self.assertRegex(run("convert", "--ndjson", text=text)[2], r"\A<stdin>:2:1: more than 67108864 bytes")
         limit = lambda kilobytes: lambda: resource.setrlimit(resource.RLIMIT_AS, (kilobytes << 10,) * 2)
-        suffices = [k for k in range(1000, 30000, 500) if run("check", "--ndjson", text=NODE, preexec_fn=limit(k))[0] == 0]
+        suffices = [kilobytes for kilobytes in range(1000, 30000, 500)
+                    if run("check", "--ndjson", text=NODE, preexec_fn=limit(kilobytes))[0] == 0]
         if not suffices:
             self.skipTest("sanitizers need all addresses")
         large = '{"_type":"Node","id":"n1","a":[' + "0," * 2000000 + "0]}"
