@@ -31,16 +31,20 @@ def run(*arguments, text="", **options):
     return done.returncode, (done.stdout or b"").decode(), (done.stderr or b"").decode()
 
 
-def on_terminal(*arguments, text="", streams=("stdout", "stderr"), **options):
-    """What a terminal shows."""
-    terminal, side = pty.openpty()
-    run(*arguments, text=text, **dict.fromkeys(streams, side), **options)
+def shown_on(terminal, side):
     os.write(side, b"\0")
     shown = b""
     while not shown.endswith(b"\0"):
         shown += os.read(terminal, 10000)
     os.close(terminal), os.close(side)
     return shown[:-1].decode().replace("\r\n", "\n")
+
+
+def on_terminal(*arguments, text="", streams=("stdout", "stderr"), **options):
+    """What a terminal shows."""
+    terminal, side = pty.openpty()
+    run(*arguments, text=text, **dict.fromkeys(streams, side), **options)
+    return shown_on(terminal, side)
 
 
 class Tool(unittest.TestCase):
@@ -189,9 +193,8 @@ class Tool(unittest.TestCase):
                         time.sleep(0.01)
                     time.sleep(0.6)  # nobody reads what was written, so that what comes next is late
                     process.stdout.read()
-                self.assertRegex(os.read(terminal, 10000).decode(), rf"\A(\r\x1b\[K{shown}\d+ documents/s{left})+"
+                self.assertRegex(shown_on(terminal, error), rf"\A(\r\x1b\[K{shown}\d+ documents/s{left})+"
                                  r"\r\x1b\[K\x1b\[1m\S+:40001:1: \x1b\[0m")
-                os.close(terminal), os.close(error)
 
     def test_UsesColoursOnTerminalsOnly(self):
         text = '{"_type":"BoundaryRelative","origin":"Absolute"}'
@@ -199,7 +202,7 @@ class Tool(unittest.TestCase):
         sentence = '"Absolute" is the origin of a relative boundary, which ends the process'
         coloured = f"\x1b[1m{start}\x1b[0m\x1b[31mFATAL: {sentence}\x1b[0m\n"
         self.assertEqual(on_terminal("check", text=text), coloured)
-        self.assertEqual(on_terminal("convert", text=text), f"\x1b[1m{start}\x1b[0mrefused: {sentence}\n")
+        self.assertEqual(on_terminal("convert", text=text), f"\x1b[1m{start}\x1b[0m{sentence}\n")
         plain = on_terminal("check", text=text, env={**os.environ, "NO_COLOR": "1"})
         self.assertEqual((plain, run("check", text=text)[1]), (f"{start}FATAL: {sentence}\n",) * 2)
 

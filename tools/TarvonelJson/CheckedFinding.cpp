@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 
 namespace TarvonelJson
@@ -24,6 +26,7 @@ std::vector<CheckedFinding> CheckDocument(const SourceText& source)
 {
     std::vector<Finding> findings;
     ReadOptions options;
+    options.limits = SourceText::Limits();
     options.findings = &findings;
     options.maximumFindings = std::numeric_limits<std::size_t>::max();
     std::vector<CheckedFinding> checked;
@@ -31,11 +34,22 @@ std::vector<CheckedFinding> CheckDocument(const SourceText& source)
     {
         checked = FindInstability(source.text, result.Entity());
     }
-    else if (auto refusal = WhyNotRead(source); refusal.kind != nullptr)
+    else if (auto refusal = WhyNotRead(source, result); refusal.kind != nullptr)
     {
         const auto level = refusal.status == ExitStatus::Trouble ? Level::NotJson : Level::Failure;
         return {
             {refusal.position, std::move(refusal.pointer), refusal.kind, std::move(refusal.sentence), "", level, 0}};
+    }
+    if (!checked.empty())
+    {
+        // What the inspection says of a value, it says better.
+        std::unordered_set<std::string_view> said;
+        for (const auto& finding : findings)
+            said.insert(finding.pointer);
+        checked.erase(std::remove_if(checked.begin(), checked.end(),
+                                     [&said](const CheckedFinding& unstable)
+                                     { return said.count(unstable.pointer) > 0; }),
+                      checked.end());
     }
     for (auto& finding : findings)
     {

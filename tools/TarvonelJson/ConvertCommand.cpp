@@ -45,10 +45,11 @@ ExitStatus ConvertCommand::Convert(const SourceText& source, Output& output, Los
     const bool looksForLosses = isStrict_ || !isQuiet_;
     std::vector<Finding> findings;
     ReadOptions options;
+    options.limits = SourceText::Limits();
     options.findings = looksForLosses ? &findings : nullptr;
     const auto result = Documents::ReadAnyText(source.text, options);
     if (!result)
-        return Report(source, WhyNotRead(source));
+        return Report(source, WhyNotRead(source, result));
     const auto text = Documents::ToText(result.Entity(), isPretty_ ? Layout::Pretty : Layout::Compact);
     if (looksForLosses)
     {

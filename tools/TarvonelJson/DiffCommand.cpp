@@ -31,7 +31,7 @@ std::optional<AnyEntity> ReadChannel(const SourceText& source)
     auto result = Documents::ReadAnyText(source.text);
     if (!result)
     {
-        Report(source, WhyNotRead(source));
+        Report(source, WhyNotRead(source, result));
         return std::nullopt;
     }
     if (ChannelOf(result.Entity()) == nullptr)

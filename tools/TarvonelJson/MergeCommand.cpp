@@ -112,7 +112,7 @@ ExitStatus MergeCommand::Run(Output& output) const
 ExitStatus MergeCommand::Merge(const SourceText& source, Channel& channel, Losses& losses) const
 {
     Json::Value document;
-    if (const auto result = ParseText(source.text, document); !result)
+    if (const auto result = ParseText(source.text, document, SourceText::Limits()); !result)
         return Report(source, NotJson(source, result));
     const auto kind = KindOf(document);
     if (!kind)
@@ -126,8 +126,8 @@ ExitStatus MergeCommand::Merge(const SourceText& source, Channel& channel, Losse
     const auto identifier = IdOf(document);
     if (!takesAnyIdentifier_ && !expected.empty() && !identifier.empty() && identifier != expected)
         return Report(source, OtherIdentifier(source, document, expected));
-    if (const auto result = MergeText(source.text, *channel); !result)
-        return Report(source, {result.Position(), result.Pointer(), result.ErrorMessage()});
+    if (const auto result = MergeText(source.text, *channel, SourceText::Limits()); !result)
+        return Report(source, {result.Position(), result.Pointer(), result.Sentence()});
     if (isStrict_ || !isQuiet_)
     {
         const auto findings = InspectDocument(document);

@@ -32,7 +32,7 @@ Refusal RefusalOf(const SourceText& source, const ApplyResult& result, const std
     if (!losses.empty() && FirstFailure(losses) == nullptr && FirstFatal(losses) == nullptr)
         return RefusalOfLoss(source, losses);
     if (result.Kind())
-        return {result.Position(), result.Pointer(), result.ErrorMessage()};
+        return {result.Position(), result.Pointer(), result.Sentence()};
     Json::Value document;
     const auto parsed = ParseText(source.text, document);
     return parsed ? UnknownType(source, document) : NotJson(source, parsed);

@@ -4,8 +4,7 @@
 #include <TarvonelJson/Printable.h>
 #include <TarvonelJson/Suggestion.h>
 
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/DocumentKind.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
 
 #include <json/value.h>
@@ -33,7 +32,7 @@ bool IsSecondDocument(std::string_view text, const TextPosition& position)
     if (offset >= text.size() || (text[offset] != '{' && text[offset] != '['))
         return false;
     JsonObject first;
-    return static_cast<bool>(ParseText(text.substr(0, offset), first));
+    return static_cast<bool>(ParseText(text.substr(0, offset), first, SourceText::Limits()));
 }
 
 const std::vector<std::string>& KnownTypes()
@@ -55,10 +54,17 @@ std::string KnownTypesInWords()
 
 Refusal NotJson(const SourceText& source, const TextResult& result)
 {
-    const bool needsHint = !source.isLine && IsSecondDocument(source.text, result.Position());
-    return {result.Position(), result.Pointer(),
-            result.ErrorMessage() + (needsHint ? "; with --ndjson each line is a document" : ""), ExitStatus::Trouble,
-            "invalid-json"};
+    auto sentence = result.Sentence();
+    // A further place that ends the sentence is one in the text.
+    constexpr std::string_view at = " at 1:";
+    const auto place = sentence.rfind(at);
+    const bool endsWithPlace =
+        place != std::string::npos && sentence.find_first_not_of("0123456789", place + at.size()) == std::string::npos;
+    if (source.isLine && endsWithPlace)
+        sentence.replace(place, at.size(), " at " + std::to_string(source.firstLine) + ':');
+    if (!source.isLine && IsSecondDocument(source.text, result.Position()))
+        sentence += "; with --ndjson each line is a document";
+    return {result.Position(), result.Pointer(), sentence, ExitStatus::Trouble, "invalid-json"};
 }
 
 Refusal UnknownType(const SourceText& source, const JsonObject& document)
@@ -81,20 +87,14 @@ Refusal UnknownType(const SourceText& source, const JsonObject& document)
     return refusal;
 }
 
-Refusal WhyNotRead(const SourceText& source)
+Refusal WhyNotRead(const SourceText& source, const TextResult& result)
 {
     JsonObject document;
-    if (const auto result = ParseText(source.text, document); !result)
-        return NotJson(source, result);
+    if (const auto parsed = ParseText(source.text, document, SourceText::Limits()); !parsed)
+        return NotJson(source, parsed);
     if (!KindOf(document))
         return UnknownType(source, document);
-    const auto findings = InspectDocument(document);
-    if (const auto* const fatal = FirstFatal(findings))
-        return {PositionOf(source.text, fatal->offset), fatal->pointer, "refused: " + fatal->sentence};
-    const auto result = Documents::ReadAny(document);
-    const auto* const failure = FirstFailure(findings);
-    return {PositionOf(source.text, failure != nullptr ? failure->offset : document.getOffsetStart()), result.Pointer(),
-            result.ErrorMessage()};
+    return {result.Position(), result.Pointer(), result.Sentence()};
 }
 
 Refusal RefusalOfLoss(const SourceText& source, const std::vector<Finding>& findings)

@@ -30,8 +30,8 @@ Refusal NotJson(const SourceText& source, const Qiv::DataModel::Tarvonel::Serial
 /// Of a document whose "_type" names no kind.
 Refusal UnknownType(const SourceText& source, const Qiv::Common::Serialization::Json::JsonObject& document);
 
-/// Of a text that could not be read, whatever the reason is.
-Refusal WhyNotRead(const SourceText& source);
+/// Of a text that `result` says could not be read, whatever the reason is.
+Refusal WhyNotRead(const SourceText& source, const Qiv::DataModel::Tarvonel::Serialization::Json::TextResult& result);
 
 /// For `--strict`: of what the findings tell, or, without any, of a time code without date.
 Refusal RefusalOfLoss(const SourceText& source,

@@ -2,8 +2,17 @@
 
 #include <TarvonelJson/Printable.h>
 
+#include <limits>
+
 namespace TarvonelJson
 {
+
+Qiv::DataModel::Tarvonel::Serialization::Json::TextLimits SourceText::Limits()
+{
+    Qiv::DataModel::Tarvonel::Serialization::Json::TextLimits limits;
+    limits.bytes = std::numeric_limits<std::size_t>::max();
+    return limits;
+}
 
 std::string SourceText::MessageStart(const Position& position, std::string_view pointer) const
 {

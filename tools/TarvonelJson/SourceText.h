@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/TextLimits.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/TextPosition.h>
 
 #include <cstddef>
@@ -21,6 +22,9 @@ struct SourceText
     std::size_t firstLine = 1;
     /// Whether it is a line of its file; otherwise it is the whole file.
     bool isLine = false;
+
+    /// For reading it: its size has been judged by --max-bytes.
+    static Qiv::DataModel::Tarvonel::Serialization::Json::TextLimits Limits();
 
     /// A place in the text as a place in the file.
     Position InFile(const Position& position) const { return {position.line + firstLine - 1, position.column}; }
