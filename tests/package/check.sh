@@ -121,14 +121,15 @@ check_hardened() # BUILD
 
 check_packages() # FOLDER ARCHITECTURE
 {
-    local file lib root=$scratch/root examples=usr/share/doc/libqiv-dev/examples
+    local file lib documents depends root=$scratch/root examples=usr/share/doc/libqiv-dev/examples
     lib=usr/lib/$(multiarch)
     # The tool without the package for developers.
     for file in "$1"/{libqiv1,tarvonel-json}_*_"$2".deb; do
         dpkg-deb --extract "$file" "$root"
     done
-    [[ $(LD_LIBRARY_PATH=$root/$lib "$root/usr/bin/tarvonel-json" convert "$root"/usr/share/doc/*/examples/documents/node.json) == \
-        "$(cat "$root"/usr/share/doc/*/examples/documents/canonical/node.json)" ]] || fail "the tool does not convert a node"
+    documents=$root/usr/share/doc/tarvonel-json/examples/documents
+    [[ $(LD_LIBRARY_PATH=$root/$lib "$root/usr/bin/tarvonel-json" convert "$documents/node.json") == \
+        "$(<"$documents/canonical/node.json")" ]] || fail "the tool does not convert a node"
     for file in schema/documents.schema.json schema/documents.d.ts cases/Schema.json; do
         [[ -s $root/usr/share/qiv/$file ]] || fail "$file is not in the package of the tool"
     done
@@ -144,7 +145,8 @@ check_packages() # FOLDER ARCHITECTURE
     check_consumer "$root/usr" "lib/$(multiarch)"
     cmake -G Ninja -S "$root/$examples" -B "$scratch/examples" "-DCMAKE_PREFIX_PATH=$root/usr" >"$scratch/log" 2>&1 &&
         cmake --build "$scratch/examples" >"$scratch/log" 2>&1 &&
-        LD_LIBRARY_PATH=$root/$lib ctest --test-dir "$scratch/examples" --no-tests=error >"$scratch/log" 2>&1 ||
+        LD_LIBRARY_PATH=$root/$lib ctest --test-dir "$scratch/examples" --no-tests=error --output-on-failure \
+            >"$scratch/log" 2>&1 ||
         fail "the examples beside the package: $(cat "$scratch/log")"
 
     # What a package of the consumer would depend on.
@@ -152,8 +154,9 @@ check_packages() # FOLDER ARCHITECTURE
     mv "$scratch/consumer/consumer" "$scratch/debian/consumer"
     printf 'Source: consumer\n\nPackage: consumer\nArchitecture: any\n' >"$scratch/debian/control"
     dpkg-deb --control "$1"/libqiv1_*_"$2".deb "$scratch/control"
-    file=$(cd "$scratch" && DEB_HOST_ARCH=$2 dpkg-shlibdeps -O -L"$scratch/control/shlibs" -l"$root/$lib" debian/consumer/consumer)
-    [[ $file == *"libqiv1 (>= "* ]] || fail "a program that links the libraries depends on $file"
+    depends=$(cd "$scratch" &&
+        DEB_HOST_ARCH=$2 dpkg-shlibdeps -O -L"$scratch/control/shlibs" -l"$root/$lib" debian/consumer/consumer)
+    [[ $depends == *"libqiv1 (>= "* ]] || fail "a program that links the libraries depends on $depends"
 }
 
 check_together() # FOLDER
