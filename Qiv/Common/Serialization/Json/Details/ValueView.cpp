@@ -34,19 +34,23 @@ std::string ValueView::ScalarText() const
 
 std::size_t ValueView::FindMembers(const KeyTable& keys, std::size_t keyCount, const void** members) const noexcept
 {
-    // A look-up of a key takes as long as walking over some four members.
-    if (const auto size = Size(); IsOfTree() && size > 4 * keyCount)
+    const auto keep = [&](std::string_view name, ValueView member)
     {
-        for (std::size_t i = 0; i < keyCount; ++i)
-            members[i] = Find(keys.KeyAt(i)).value_;
-        return size;
-    }
-    return VisitMembers(
-        [&](std::string_view name, ValueView member)
-        {
-            if (const auto index = keys.Find(name); index != KeyTable::notFound)
-                members[index] = member.value_;
-        });
+        if (const auto index = keys.Find(name); index != KeyTable::notFound)
+            members[index] = member.value_;
+    };
+
+    if (value_ == nullptr)
+        return 0;
+    if (!IsOfTree())
+        return VisitMembersOfText(keep);
+    // A look-up of a key takes as long as walking over some four members.
+    const std::size_t size = Json().size();
+    if (size <= 4 * keyCount || !IsObject())
+        return VisitMembersOfTree(size, keep);
+    for (std::size_t i = 0; i < keyCount; ++i)
+        members[i] = Find(keys.KeyAt(i)).value_;
+    return size;
 }
 
 JsonObject ValueView::RealOfNode() const

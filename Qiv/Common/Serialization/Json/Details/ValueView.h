@@ -40,7 +40,7 @@ public:
     bool IsEmptyObject() const noexcept { return !IsObject() || Size() == 0; }
 
     /// The text of a JSON string, without a copy; it lives as long as the document is left alone.
-    std::optional<std::string_view> Text() const noexcept
+    [[gnu::always_inline]] std::optional<std::string_view> Text() const noexcept
     {
         if (value_ == nullptr)
             return std::nullopt;
@@ -145,26 +145,13 @@ public:
     template <typename Visit>
     std::size_t VisitMembers(const Visit& visit) const
     {
-        const auto size = Size();
-        if (size == 0)
+        if (value_ == nullptr)
             return 0;
-        auto left = size;
-        if (!IsOfTree())
-        {
-            for (const auto* name = &Node() + 1; left != 0; --left, name = Behind(name + 1))
-                visit(TextOf(*document_, *name), ValueView(*document_, name[1]));
-            return size;
-        }
-        for (auto member = Json().begin(); left != 0; --left, ++member)
-        {
-            const char* nameEnd = nullptr;
-            const char* const nameBegin = member.memberName(&nameEnd);
-            visit(std::string_view(nameBegin, static_cast<std::size_t>(nameEnd - nameBegin)), ValueView(*member));
-        }
-        return size;
+        return IsOfTree() ? VisitMembersOfTree(Json().size(), visit) : VisitMembersOfText(visit);
     }
 
-    /// Calls `visit` with the index and the value of each element of an array; of jsoncpp's, of those that are there.
+    /// Calls `visit` with each element of an array, of jsoncpp's with those that are there, and with a function that
+    /// tells its index, which jsoncpp takes a call for.
     template <typename Visit>
     void VisitElements(const Visit& visit) const
     {
@@ -173,12 +160,12 @@ public:
         if (IsOfTree())
         {
             for (auto element = Json().begin(); element != Json().end(); ++element)
-                visit(static_cast<std::size_t>(element.index()), ValueView(*element));
+                visit(ValueView(*element), [&element] { return static_cast<std::size_t>(element.index()); });
             return;
         }
         const auto* element = &Node() + 1;
         for (std::size_t i = 0; i < Node().size; ++i, element = Behind(element))
-            visit(i, ValueView(*document_, *element));
+            visit(ValueView(*document_, *element), [i] { return i; });
     }
 
     /// Where the value starts in the text that it was parsed from, in bytes; 0 for a value that was never text.
@@ -206,6 +193,35 @@ private:
     bool Is(::Json::ValueType typeInTree, NodeType typeInText) const noexcept
     {
         return IsOfTree() ? Json().type() == typeInTree : Node().type == typeInText;
+    }
+
+    template <typename Visit>
+    std::size_t VisitMembersOfTree(std::size_t size, const Visit& visit) const
+    {
+        if (size == 0) // also of a scalar
+            return 0;
+        auto left = size;
+        for (auto member = Json().begin();; ++member)
+        {
+            const char* nameEnd = nullptr;
+            const char* const nameBegin = member.memberName(&nameEnd);
+            if (nameBegin == nullptr) // an array
+                return 0;
+            visit(std::string_view(nameBegin, static_cast<std::size_t>(nameEnd - nameBegin)), ValueView(*member));
+            if (--left == 0)
+                return size;
+        }
+    }
+
+    template <typename Visit>
+    std::size_t VisitMembersOfText(const Visit& visit) const
+    {
+        if (Node().type != NodeType::Object)
+            return 0;
+        const auto* name = &Node() + 1;
+        for (auto left = Node().size; left != 0; --left, name = Behind(name + 1))
+            visit(TextOf(*document_, *name), ValueView(*document_, name[1]));
+        return Node().size;
     }
 
     // The node behind a value and all that is inside it.

@@ -178,9 +178,9 @@ void OperatorIndex(Inspection& inspection, ValueView value)
 void Addresses(Inspection& inspection, ValueView value)
 {
     value.VisitElements(
-        [&](std::size_t index, ValueView element)
+        [&](ValueView element, const auto& indexOf)
         {
-            const Inspection::Step step(inspection, std::to_string(index));
+            const Inspection::Step step(inspection, std::to_string(indexOf()));
             if (element.IsText())
                 FreeText(inspection, element);
             else

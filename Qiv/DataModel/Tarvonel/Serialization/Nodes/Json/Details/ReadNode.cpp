@@ -28,7 +28,7 @@ std::vector<std::string> TextsOf(ValueView array)
 {
     std::vector<std::string> texts;
     array.VisitElements(
-        [&](std::size_t, ValueView element)
+        [&](ValueView element, const auto&)
         {
             if (const auto text = element.Text())
                 texts.emplace_back(*text);
