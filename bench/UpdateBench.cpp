@@ -28,7 +28,7 @@ using Qiv::DataModel::Tarvonel::Serialization::Json::Mirrors::Mirror;
 
 std::string IdOf(int number)
 {
-    return "server-41230-channel-" + std::to_string(number);
+    return "41230-rec-" + std::to_string(number);
 }
 
 // What a recorder tells many times a second.

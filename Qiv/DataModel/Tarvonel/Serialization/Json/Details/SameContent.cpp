@@ -78,7 +78,9 @@ bool AreSame(const TimeCode& left, const TimeCode& right)
 {
     if (left == right)
         return true;
-    if (left.IsEmpty() || right.IsEmpty())
+    const bool differInSamplesAlone =
+        left.HasDate() && right.HasDate() && left.Rate() == right.Rate() && left.IsDrop() == right.IsDrop();
+    if (differInSamplesAlone || left.IsEmpty() || right.IsEmpty())
         return false;
     char leftText[QivTimeCodeFormatter::MaximumLength];
     char rightText[QivTimeCodeFormatter::MaximumLength];

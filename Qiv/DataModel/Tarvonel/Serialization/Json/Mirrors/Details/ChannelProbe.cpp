@@ -1,20 +1,16 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Mirrors/Details/ChannelProbe.h>
 
-#include <Qiv/Common/Serialization/Json/Details/JsonForm.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/MediaInput.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/MediaOutput.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Channels/MetadataValues.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/SameContent.h>
 
 #include <algorithm>
-#include <cstddef>
 #include <type_traits>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::Json::Mirrors::Details
 {
 
-using Common::Serialization::Json::Details::IndexOf;
-using Common::Serialization::Json::Details::keysOf;
 using Common::Serialization::Json::Details::ValueView;
 using Tarvonel::MediaIOs::MediaInput;
 using Tarvonel::MediaIOs::MediaIO;
@@ -33,8 +29,7 @@ bool AreSame(const std::optional<std::string>& left, const std::optional<std::st
 template <const auto& member, typename Type, typename Visit>
 void ChannelProbe::VisitIfNamed(const Type& value, const Visit& visit) const
 {
-    constexpr auto index = IndexOf(member);
-    if (isNamed_.test(index))
+    if (members_.Get<member>())
         visit(value);
 }
 
@@ -71,24 +66,16 @@ void ChannelProbe::VisitNamed(const MediaIO& channel, const Visit& visit) const
     VisitIfNamed<Form::outBoundary>(output.OutBoundary(), visit);
 }
 
-ChannelProbe::ChannelProbe(ValueView update, const MediaIO& channel) : hadMetadata_(!channel.Metadata().Empty())
+ChannelProbe::ChannelProbe(ValueView update, const MediaIO& channel) : members_(update)
 {
-    update.VisitMembers(
-        [&](std::string_view name, ValueView member)
-        {
-            const auto& keys = keysOf<Form>;
-            const auto key = std::find(keys.begin(), keys.end(), name);
-            if (key == keys.end())
-                return;
-            isNamed_.set(static_cast<std::size_t>(key - keys.begin()));
-            if (name == Form::metadata.key)
-                member.VisitMembers(
-                    [&](std::string_view metadataKey, ValueView)
-                    { metadata_.emplace_back(metadataKey, Channels::MetadataValue(channel.Metadata(), metadataKey)); });
-        });
-
-    values_.reserve(isNamed_.count() + 1);
+    values_.reserve(members_.Size());
     VisitNamed(channel, [this](const auto& value) { values_.push_back(Kept(value)); });
+    if (const auto metadata = members_.Get<Form::metadata>())
+    {
+        hadMetadata_ = !channel.Metadata().Empty();
+        metadata.VisitMembers([&](std::string_view key, ValueView)
+                              { metadata_.emplace_back(key, Channels::MetadataValue(channel.Metadata(), key)); });
+    }
 }
 
 bool ChannelProbe::HasChanged(const MediaIO& channel) const
@@ -106,7 +93,7 @@ bool ChannelProbe::HasChanged(const MediaIO& channel) const
                        hasChanged = !Json::Details::AreSame(std::get<Type>(*before), value) || hasChanged;
                    ++before;
                });
-    return hasChanged || hadMetadata_ == channel.Metadata().Empty() ||
+    return hasChanged || (hadMetadata_ && *hadMetadata_ == channel.Metadata().Empty()) ||
            std::any_of(metadata_.begin(), metadata_.end(),
                        [&](const auto& value)
                        { return !AreSame(Channels::MetadataValue(channel.Metadata(), value.first), value.second); });

@@ -12,12 +12,11 @@
 #include <Qiv/DataModel/Tarvonel/MediaIOs/RecordingStatus.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/SequenceOutput.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/Speed.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelMembers.h>
 #include <Qiv/TimePoints/Duration.h>
 #include <Qiv/TimePoints/TimeCode.h>
 #include <Qiv/TimePoints/TimePoint.h>
 
-#include <bitset>
 #include <memory>
 #include <optional>
 #include <string>
@@ -61,10 +60,10 @@ private:
     template <typename Visit>
     void VisitNamed(const Tarvonel::MediaIOs::MediaIO& channel, const Visit& visit) const;
 
-    std::bitset<Form::members.size()> isNamed_;
-    std::vector<Value> values_; // of the members that are named, in the order of VisitNamed
+    MediaIOs::Json::Details::ChannelMembers members_;
+    std::vector<Value> values_; // of the members that the update has, in the order of VisitNamed
     std::vector<std::pair<std::string_view, std::optional<std::string>>> metadata_;
-    bool hadMetadata_;
+    std::optional<bool> hadMetadata_; // when the update names them
 };
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Mirrors::Details

@@ -55,7 +55,7 @@ Result AppendCommonMembers(ValueView json, MediaIO& channel)
 
 Result ApplyCommonMembers(const ChannelMembers& members, MediaIO& channel)
 {
-    if (const auto id = members.Get<Form::id>())
+    if (const auto id = members.Get<Form::id>(); id && *id != channel.Id().Value())
         channel.Id(Identifier(*id));
 
     if (const auto name = members.Get<Form::name>())
