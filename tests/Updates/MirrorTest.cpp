@@ -138,6 +138,25 @@ TEST(Mirror, HoldsWhatEachChannelHasBeenToldAndTellsWhatHasChanged)
             << before << text;
     }
 
+    // Whatever has been removed, the others are found.
+    for (int i = 0; i < 1000; ++i)
+    {
+        const auto id = std::to_string(generator.Below(300));
+        const auto isKnown = expected.count("n" + id) != 0;
+        ASSERT_EQ(mirror.FindNode(id) != nullptr, isKnown);
+        if (generator.Below(3) != 0)
+        {
+            EXPECT_EQ(mirror.Apply(R"({"_type":"Node","id":")" + id + "\"}").Effect() == Effect::Created, !isKnown);
+            expected["n" + id] = nullptr;
+            continue;
+        }
+        EXPECT_EQ(mirror.RemoveNode(id), isKnown);
+        expected.erase("n" + id);
+    }
+    ASSERT_EQ(mirror.Nodes().size() + 20, expected.size());
+    while (!mirror.Nodes().empty())
+        EXPECT_TRUE(mirror.RemoveNode(std::string(mirror.Nodes().back()->NodeId().Value())));
+
     std::istringstream stream(All(mirror) + "\n{}\n");
     Mirror copy;
     std::vector<std::size_t> refused;
