@@ -180,7 +180,8 @@ void Addresses(Inspection& inspection, ValueView value)
     value.VisitElements(
         [&](ValueView element, const auto& indexOf)
         {
-            const Inspection::Step step(inspection, std::to_string(indexOf()));
+            const auto key = std::to_string(indexOf());
+            const Inspection::Step step(inspection, key);
             if (element.IsText())
                 FreeText(inspection, element);
             else

@@ -84,26 +84,29 @@ bool HasRule(const ObjectRules& rules, std::string_view key)
 
 } // namespace
 
-Inspection::Step::Step(Inspection& inspection, std::string_view key)
-    : inspection_(inspection), length_(inspection.pointer_.size())
+std::string Inspection::Pointer() const
 {
-    auto& pointer = inspection_.pointer_;
-    pointer += '/';
-    for (const char character : key)
+    std::string pointer;
+    for (const auto key : path_)
     {
-        if (character == '~')
-            pointer += "~0";
-        else if (character == '/')
-            pointer += "~1";
-        else
-            pointer += character;
+        pointer += '/';
+        for (const char character : key)
+        {
+            if (character == '~')
+                pointer += "~0";
+            else if (character == '/')
+                pointer += "~1";
+            else
+                pointer += character;
+        }
     }
+    return pointer;
 }
 
 void Inspection::Report(FindingKind kind, ValueView value, std::string sentence, std::string readerMessage)
 {
     if (IsKept(kind))
-        findings_.push_back({pointer_, kind, std::move(sentence), std::move(readerMessage), value.Offset()});
+        findings_.push_back({Pointer(), kind, std::move(sentence), std::move(readerMessage), value.Offset()});
 }
 
 bool Inspection::IsKept(FindingKind kind)

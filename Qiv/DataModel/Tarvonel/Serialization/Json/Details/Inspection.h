@@ -114,18 +114,20 @@ struct ObjectShape
 class Inspection
 {
 public:
-    /// Steps into a member or an element for the life of the object.
+    /// Steps into a member or an element for the life of the object; `key` must live as long.
     class Step
     {
     public:
-        Step(Inspection& inspection, std::string_view key);
-        ~Step() { inspection_.pointer_.resize(length_); }
+        Step(Inspection& inspection, std::string_view key) : inspection_(inspection)
+        {
+            inspection.path_.push_back(key);
+        }
+        ~Step() { inspection_.path_.pop_back(); }
         Step(const Step&) = delete;
         Step& operator=(const Step&) = delete;
 
     private:
         Inspection& inspection_;
-        std::size_t length_;
     };
 
     /// Keeps at most so many findings, and beyond that the first that the reader stops at of each kind.
@@ -151,13 +153,14 @@ private:
     void ReportWrongType(ValueView value, const MemberRule& rule);
 
     bool IsKept(FindingKind kind);
+    std::string Pointer() const;
 
     std::size_t maximum_;
     bool onlyFatal_ = false;
     bool hasFailure_ = false;
     bool hasFatal_ = false;
     std::vector<Finding> findings_;
-    std::string pointer_;
+    std::vector<std::string_view> path_;
 };
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
