@@ -2,6 +2,7 @@
 
 #include <Qiv/BusinessEntityModel/BaseTypes/GenericMetadataProfile.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/PelOperatorMetadataProfile.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/OperatorProfileForm.h>
 
 #include <charconv>
 #include <cstdint>
@@ -13,14 +14,15 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Channels
 {
 
 using namespace BusinessEntityModel::BaseTypes;
+using Common::Serialization::Json::Details::keyOf;
+using MediaIOs::Json::Details::OperatorProfileForm;
 using Tarvonel::MediaIOs::PelOperatorMetadataProfile;
 
 namespace
 {
 
-constexpr std::string_view operatorName = "qiv.peloperator";
-constexpr std::string_view serverIdKey = "qiv.peloperator.serverId";
-constexpr std::string_view indexKey = "qiv.peloperator.index";
+constexpr auto serverIdKey = keyOf<OperatorProfileForm::serverId>;
+constexpr auto indexKey = keyOf<OperatorProfileForm::index>;
 
 std::optional<std::string> ServerIdOf(const PelOperatorMetadataProfile& profile)
 {
@@ -76,10 +78,11 @@ void SetOperatorValue(EditorialMetadata& metadata, std::string_view key, std::st
     const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
     if (error != std::errc() || end != value.data() + value.size())
         Refuse(key, "the value is no whole number of 32 bits");
-    if (key == serverIdKey && (number < 1 || number % 10 != 0))
+    if (key == serverIdKey && !OperatorProfileForm::IsServerId(number))
         Refuse(key, "the value is no positive multiple of 10");
     ChangeProfile<PelOperatorMetadataProfile>(
-        metadata, FullyQualifiedName(operatorName), key, [] { return std::make_shared<PelOperatorMetadataProfile>(); },
+        metadata, FullyQualifiedName(OperatorProfileForm::profileName), key,
+        [] { return std::make_shared<PelOperatorMetadataProfile>(); },
         [&](PelOperatorMetadataProfile& profile)
         { key == serverIdKey ? profile.ServerId(number) : profile.Index(number); });
 }
@@ -140,7 +143,7 @@ void SetMetadataValue(EditorialMetadata& metadata, std::string_view key, std::st
     const auto lastDot = key.rfind('.');
     if (lastDot == std::string_view::npos)
         Refuse(key, "without a dot it belongs to no profile");
-    if (key.substr(0, lastDot).substr(0, operatorName.size()) == operatorName)
+    if (OperatorProfileForm::Reserves(key.substr(0, lastDot)))
         Refuse(key, "names that begin with \"qiv.peloperator\" are reserved");
 
     auto profileName = FullyQualifiedName(key.substr(0, lastDot));
