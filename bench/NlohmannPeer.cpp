@@ -15,6 +15,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 using namespace Qiv::BusinessEntityModel::BaseTypes;
 using namespace Qiv::DataModel::Tarvonel::MediaIOs;
@@ -279,6 +280,24 @@ void Read(const json& object, MediaOutput& channel)
         object, "inBoundary", [&](std::unique_ptr<Boundary> boundary) { channel.InBoundary(std::move(boundary)); });
     IfPresent<std::unique_ptr<Boundary>>(
         object, "outBoundary", [&](std::unique_ptr<Boundary> boundary) { channel.OutBoundary(std::move(boundary)); });
+}
+
+void Read(const json& object, Node& node)
+{
+    ExpectType(object, "Node");
+    const auto textIn = [&](const char* key)
+    {
+        const auto* text = Find(object, key);
+        return text != nullptr ? text->get<std::string>() : std::string();
+    };
+    std::vector<std::string> addresses;
+    if (const auto* array = Find(object, "gbeIpAddresses"))
+        array->get_to(addresses);
+    const auto* serialNumber = Find(object, "serialNumber");
+    node =
+        Node(object.at("id").get<Identifier>(),
+             serialNumber != nullptr ? serialNumber->get<int>() : Node::UndefinedSerialNumber(), textIn("hostName"),
+             textIn("ipAddress"), addresses, textIn("chassis"), textIn("hardwareRevision"), textIn("tarvonelVersion"));
 }
 
 } // namespace Bench

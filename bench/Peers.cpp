@@ -9,9 +9,11 @@
 #include <Qiv/TimePoints/QivTimeCodeParser.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace Bench
 {
@@ -97,56 +99,162 @@ Json::Value ToJsoncpp(const MediaInput& channel)
     return MediaInputTree<Json::Value>(channel);
 }
 
-// -- Reading from jsoncpp's tree: one plain look-up of each member
+// -- Reading from the trees of jsoncpp and of RapidJSON: one plain look-up of each member
 
 namespace
 {
 
-// The member of a tree, or null.
-const Json::Value* Find(const Json::Value& json, const char* key)
+// What the trees call differently. A member that is null is none.
+
+const Json::Value* Find(const Json::Value& object, const char* key)
 {
-    const auto& member = json[key];
+    const auto& member = object[key];
     return member.isNull() ? nullptr : &member;
 }
 
-template <typename Apply>
-void IfText(const Json::Value& json, const char* key, Apply apply)
+bool IsText(const Json::Value& json)
 {
-    if (const auto* member = Find(json, key); member != nullptr && member->isString())
-        apply(member->asString());
+    return json.isString();
 }
 
-template <typename Apply>
-void IfObject(const Json::Value& json, const char* key, Apply apply)
+std::string TextOf(const Json::Value& text)
 {
-    if (const auto* member = Find(json, key); member != nullptr && member->isObject())
+    return text.asString();
+}
+
+bool IsObject(const Json::Value& json)
+{
+    return json.isObject();
+}
+
+std::optional<int> IntOf(const Json::Value& json)
+{
+    return json.isInt() ? std::optional(json.asInt()) : std::nullopt;
+}
+
+bool IsTrue(const Json::Value& json)
+{
+    return json.asBool();
+}
+
+template <typename Visit>
+void VisitTexts(const Json::Value& object, Visit visit)
+{
+    for (auto member = object.begin(); member != object.end(); ++member)
+        if (member->isString())
+            visit(member.name(), member->asString());
+}
+
+std::vector<std::string> TextsOf(const Json::Value& array)
+{
+    std::vector<std::string> texts;
+    for (const auto& element : array)
+        if (element.isString())
+            texts.push_back(element.asString());
+    return texts;
+}
+
+const rapidjson::Value* Find(const rapidjson::Value& object, const char* key)
+{
+    const auto member = object.FindMember(key);
+    return member != object.MemberEnd() && !member->value.IsNull() ? &member->value : nullptr;
+}
+
+bool IsText(const rapidjson::Value& json)
+{
+    return json.IsString();
+}
+
+std::string_view TextOf(const rapidjson::Value& text)
+{
+    return {text.GetString(), text.GetStringLength()};
+}
+
+bool IsObject(const rapidjson::Value& json)
+{
+    return json.IsObject();
+}
+
+std::optional<int> IntOf(const rapidjson::Value& json)
+{
+    return json.IsInt() ? std::optional(json.GetInt()) : std::nullopt;
+}
+
+bool IsTrue(const rapidjson::Value& json)
+{
+    return json.IsTrue();
+}
+
+template <typename Visit>
+void VisitTexts(const rapidjson::Value& object, Visit visit)
+{
+    for (const auto& member : object.GetObject())
+        if (member.value.IsString())
+            visit(TextOf(member.name), TextOf(member.value));
+}
+
+std::vector<std::string> TextsOf(const rapidjson::Value& array)
+{
+    std::vector<std::string> texts;
+    if (!array.IsArray())
+        return texts;
+    for (const auto& element : array.GetArray())
+        if (element.IsString())
+            texts.emplace_back(TextOf(element));
+    return texts;
+}
+
+// What is alike. An enumeration is found by a std::string.
+
+const std::string& Owned(const std::string& text)
+{
+    return text;
+}
+
+std::string Owned(std::string_view text)
+{
+    return std::string(text);
+}
+
+template <typename Tree, typename Apply>
+void IfText(const Tree& json, const char* key, Apply apply)
+{
+    if (const auto* member = Find(json, key); member != nullptr && IsText(*member))
+        apply(TextOf(*member));
+}
+
+template <typename Tree, typename Apply>
+void IfObject(const Tree& json, const char* key, Apply apply)
+{
+    if (const auto* member = Find(json, key); member != nullptr && IsObject(*member))
         apply(*member);
 }
 
-bool IsOfType(const Json::Value& json, const char* type)
+template <typename Tree>
+bool IsOfType(const Tree& json, const char* type)
 {
     bool isOfType = false;
-    IfText(json, "_type", [&](const std::string& found) { isOfType = found == type; });
+    IfText(json, "_type", [&](const auto& found) { isOfType = found == type; });
     return isOfType;
 }
 
 // Also skips an object of another type.
-template <typename Apply>
-void IfObjectOf(const char* type, const Json::Value& json, const char* key, Apply apply)
+template <typename Tree, typename Apply>
+void IfObjectOf(const char* type, const Tree& json, const char* key, Apply apply)
 {
     IfObject(json, key,
-             [&](const Json::Value& object)
+             [&](const Tree& object)
              {
                  if (IsOfType(object, type))
                      apply(object);
              });
 }
 
-template <typename Apply>
-void IfTimeCode(const Json::Value& json, const char* key, Apply apply)
+template <typename Tree, typename Apply>
+void IfTimeCode(const Tree& json, const char* key, Apply apply)
 {
     IfText(json, key,
-           [&](const std::string& text)
+           [&](const auto& text)
            {
                TimeCode timeCode;
                if (QivTimeCodeParser::TryRead(text, timeCode))
@@ -154,14 +262,14 @@ void IfTimeCode(const Json::Value& json, const char* key, Apply apply)
            });
 }
 
-template <typename Apply>
-void IfNanoseconds(const Json::Value& json, const char* key, const char* type, Apply apply)
+template <typename Tree, typename Apply>
+void IfNanoseconds(const Tree& json, const char* key, const char* type, Apply apply)
 {
     IfObjectOf(type, json, key,
-               [&](const Json::Value& object)
+               [&](const Tree& object)
                {
                    IfText(object, "value",
-                          [&](const std::string& value)
+                          [&](const auto& value)
                           {
                               Duration duration;
                               if (QivDurationParser::TryRead(value, duration))
@@ -170,27 +278,28 @@ void IfNanoseconds(const Json::Value& json, const char* key, const char* type, A
                });
 }
 
-template <typename Apply>
-void IfTimePoint(const Json::Value& json, const char* key, Apply apply)
+template <typename Tree, typename Apply>
+void IfTimePoint(const Tree& json, const char* key, Apply apply)
 {
     IfNanoseconds(json, key, "TimePoint", [&](Duration value) { apply(TimePoint(value.Nanoseconds())); });
 }
 
-template <typename Apply>
-void IfAssetReference(const Json::Value& json, const char* key, Apply apply)
+template <typename Tree, typename Apply>
+void IfAssetReference(const Tree& json, const char* key, Apply apply)
 {
     IfObjectOf("MediaAssetRef", json, key,
-               [&](const Json::Value& reference)
+               [&](const Tree& reference)
                {
                    SharedReference<MediaAsset> result;
-                   IfText(reference, "id", [&](std::string id) { result = Identifier(std::move(id)); });
+                   IfText(reference, "id", [&](auto id) { result = Identifier(std::string(std::move(id))); });
                    IfObjectOf("MediaAsset", reference, "mediaAsset",
-                              [&](const Json::Value& object)
+                              [&](const Tree& object)
                               {
                                   auto asset = std::make_shared<MediaAsset>();
-                                  IfText(object, "id", [&](std::string id) { asset->Id(Identifier(std::move(id))); });
+                                  IfText(object, "id",
+                                         [&](auto id) { asset->Id(Identifier(std::string(std::move(id)))); });
                                   IfText(object, "name",
-                                         [&](std::string name) { asset->Name(Utf8String(std::move(name))); });
+                                         [&](auto name) { asset->Name(Utf8String(std::string(std::move(name)))); });
                                   IfTimePoint(object, "inPoint", [&](TimePoint point) { asset->InPoint(point); });
                                   IfTimePoint(object, "outPoint", [&](TimePoint point) { asset->OutPoint(point); });
                                   result = asset;
@@ -199,81 +308,83 @@ void IfAssetReference(const Json::Value& json, const char* key, Apply apply)
                });
 }
 
-void SetMetadata(MediaIO& channel, const std::string& name, const std::string& value)
+void SetMetadata(MediaIO& channel, std::string_view name, std::string_view value)
 {
     const auto dot = name.rfind('.');
-    if (dot == std::string::npos)
+    if (dot == std::string_view::npos)
         return;
     const FullyQualifiedName profileName(name.substr(0, dot));
     if (!channel.Metadata().Contains(profileName))
         channel.Metadata().Set(std::make_shared<GenericMetadataProfile>(profileName));
-    dynamic_cast<GenericMetadataProfile&>(channel.Metadata().At(profileName))
-        .Assign(std::string_view(name).substr(dot + 1), value);
+    dynamic_cast<GenericMetadataProfile&>(channel.Metadata().At(profileName)).Assign(name.substr(dot + 1), value);
 }
 
-void ReadGenericProfiles(const Json::Value& metadata, MediaIO& channel)
+// The member when it is an int.
+template <typename Tree>
+std::optional<int> IntIn(const Tree& json, const char* key)
 {
-    for (auto member = metadata.begin(); member != metadata.end(); ++member)
-        if (member->isString())
-            SetMetadata(channel, member.name(), member->asString());
+    const auto* member = Find(json, key);
+    return member != nullptr ? IntOf(*member) : std::nullopt;
 }
 
-void ReadCommon(const Json::Value& json, MediaIO& channel)
+template <typename Tree>
+void ReadCommon(const Tree& json, MediaIO& channel)
 {
-    IfText(json, "id", [&](std::string id) { channel.Id(Identifier(std::move(id))); });
-    IfText(json, "name", [&](std::string name) { channel.Name(Utf8String(std::move(name))); });
+    IfText(json, "id", [&](auto id) { channel.Id(Identifier(std::string(std::move(id)))); });
+    IfText(json, "name", [&](auto name) { channel.Name(Utf8String(std::string(std::move(name)))); });
     IfAssetReference(json, "mediaAssetOnAir",
                      [&](SharedReference<MediaAsset> reference) { channel.MediaAssetOnAir(std::move(reference)); });
     IfObject(json, "metadata",
-             [&](const Json::Value& metadata)
+             [&](const Tree& metadata)
              {
-                 PelOperatorMetadataProfile profile;
-                 const auto* serverId = Find(metadata, "qiv.peloperator.serverId");
-                 const auto* index = Find(metadata, "qiv.peloperator.index");
-                 if (serverId != nullptr && serverId->isInt())
-                     profile.ServerId(serverId->asInt());
-                 if (index != nullptr && index->isInt())
-                     profile.Index(index->asInt());
-                 if (serverId != nullptr || index != nullptr)
-                     channel.Metadata().Set(std::make_shared<PelOperatorMetadataProfile>(profile));
-                 ReadGenericProfiles(metadata, channel);
+                 const auto serverId = IntIn(metadata, "qiv.peloperator.serverId");
+                 const auto index = IntIn(metadata, "qiv.peloperator.index");
+                 if (serverId || index)
+                 {
+                     const auto profile = std::make_shared<PelOperatorMetadataProfile>();
+                     if (serverId)
+                         profile->ServerId(*serverId);
+                     if (index)
+                         profile->Index(*index);
+                     channel.Metadata().Set(profile);
+                 }
+                 VisitTexts(metadata,
+                            [&](std::string_view name, std::string_view value) { SetMetadata(channel, name, value); });
              });
 }
 
-} // namespace
-
-void Read(const Json::Value& json, MediaInput& channel)
+template <typename Tree>
+void ReadEntity(const Tree& json, MediaInput& channel)
 {
     if (!IsOfType(json, "MediaInput"))
         return;
     ReadCommon(json, channel);
-    IfText(json, "recordingStatus", [&](const std::string& text) { channel.RecordingStatus(ToRecordingStatus(text)); });
+    IfText(json, "recordingStatus", [&](const auto& text) { channel.RecordingStatus(ToRecordingStatus(Owned(text))); });
     IfTimePoint(json, "lastTimePoint", [&](TimePoint point) { channel.LastTimePoint(point); });
     IfTimeCode(json, "lastTodTimecode", [&](const TimeCode& timeCode) { channel.LastTodTimecode(timeCode); });
     IfTimeCode(json, "lastUserTimecode", [&](const TimeCode& timeCode) { channel.LastUserTimecode(timeCode); });
     IfText(json, "primaryTimecodeType",
-           [&](const std::string& text) { channel.PrimaryTimecodeType(ToTimecodePrimary(text)); });
+           [&](const auto& text) { channel.PrimaryTimecodeType(ToTimecodePrimary(Owned(text))); });
     IfNanoseconds(json, "remainingCapacity", "Duration", [&](Duration value) { channel.RemainingCapacity(value); });
     IfNanoseconds(json, "totalCapacity", "Duration", [&](Duration value) { channel.TotalCapacity(value); });
 }
 
-namespace
-{
-
-SequenceOutput::AssetBlockOutput BlockOf(const Json::Value& json)
+template <typename Tree>
+SequenceOutput::AssetBlockOutput BlockOf(const Tree& json)
 {
     SequenceOutput::AssetBlockOutput block;
-    IfText(json, "id", [&](std::string id) { block.Id(Identifier(std::move(id))); });
+    IfText(json, "id", [&](auto id) { block.Id(Identifier(std::string(std::move(id)))); });
     IfAssetReference(json, "mediaAsset",
                      [&](SharedReference<MediaAsset> reference) { block.MediaAssetRef(std::move(reference)); });
     return block;
 }
 
-std::unique_ptr<Boundary> BoundaryOf(const Json::Value& json)
+template <typename Tree>
+std::unique_ptr<Boundary> BoundaryOf(const Tree& json)
 {
     std::unique_ptr<Boundary> boundary;
     IfText(json, "_type",
-           [&](const std::string& type)
+           [&](const auto& type)
            {
                if (type == "BoundaryAbsolute")
                {
@@ -284,59 +395,110 @@ std::unique_ptr<Boundary> BoundaryOf(const Json::Value& json)
                else if (type == "BoundaryRelative")
                {
                    auto relative = std::make_unique<BoundaryRelative>();
-                   IfText(json, "origin", [&](const std::string& text) { relative->Origin(ToBoundaryOrigin(text)); });
-                   if (const auto* offset = Find(json, "offset"); offset != nullptr && offset->isInt())
-                       relative->Offset(offset->asInt());
+                   IfText(json, "origin", [&](const auto& text) { relative->Origin(ToBoundaryOrigin(Owned(text))); });
+                   if (const auto offset = IntIn(json, "offset"))
+                       relative->Offset(*offset);
                    boundary = std::move(relative);
                }
            });
     return boundary;
 }
 
-} // namespace
-
-void Read(const Json::Value& json, MediaOutput& channel)
+template <typename Tree>
+void ReadEntity(const Tree& json, MediaOutput& channel)
 {
     if (!IsOfType(json, "MediaOutput"))
         return;
     ReadCommon(json, channel);
-    IfText(json, "playingStatus", [&](const std::string& text) { channel.PlayingStatus(ToPlayingStatus(text)); });
+    IfText(json, "playingStatus", [&](const auto& text) { channel.PlayingStatus(ToPlayingStatus(Owned(text))); });
     IfObjectOf("Speed", json, "speedOnAir",
-               [&](const Json::Value& speed)
+               [&](const Tree& speed)
                {
-                   const auto* numerator = Find(speed, "numerator");
-                   const auto* denominator = Find(speed, "denominator");
-                   if (numerator != nullptr && numerator->isInt() && denominator != nullptr && denominator->isInt())
-                       channel.SpeedOnAir(Speed(numerator->asInt(), static_cast<std::uint32_t>(denominator->asInt())));
+                   const auto numerator = IntIn(speed, "numerator");
+                   const auto denominator = IntIn(speed, "denominator");
+                   if (numerator && denominator)
+                       channel.SpeedOnAir(Speed(*numerator, static_cast<std::uint32_t>(*denominator)));
                });
-    IfText(json, "globalLoopMode", [&](const std::string& text) { channel.GlobalLoopMode(ToPlayingLoopMode(text)); });
+    IfText(json, "globalLoopMode", [&](const auto& text) { channel.GlobalLoopMode(ToPlayingLoopMode(Owned(text))); });
     IfNanoseconds(json, "remainingTime", "Duration", [&](Duration value) { channel.RemainingTime(value); });
     IfObjectOf("SequenceOutput", json, "sequence",
-               [&](const Json::Value& object)
+               [&](const Tree& object)
                {
                    SequenceOutput sequence;
                    IfObjectOf("SequenceRef", object, "sequenceOnAir",
-                              [&](const Json::Value& reference)
+                              [&](const Tree& reference)
                               {
                                   SharedReference<Sequence> result;
-                                  IfText(reference, "id", [&](std::string id) { result = Identifier(std::move(id)); });
+                                  IfText(reference, "id",
+                                         [&](auto id) { result = Identifier(std::string(std::move(id))); });
                                   sequence.SequenceOnAir(std::move(result));
                               });
                    IfObjectOf("AssetBlockOnAir", object, "assetBlockOnAir",
-                              [&](const Json::Value& block) { sequence.AssetBlockOnAir(BlockOf(block)); });
+                              [&](const Tree& block) { sequence.AssetBlockOnAir(BlockOf(block)); });
                    IfObjectOf("AssetBlockOnAir", object, "nextAssetBlockOnAir",
-                              [&](const Json::Value& block) { sequence.NextAssetBlockOnAir(BlockOf(block)); });
+                              [&](const Tree& block) { sequence.NextAssetBlockOnAir(BlockOf(block)); });
                    if (const auto* editMode = Find(object, "editMode"))
-                       sequence.EditMode(editMode->asBool());
+                       sequence.EditMode(IsTrue(*editMode));
                    channel.Sequence(std::move(sequence));
                });
     IfTimePoint(json, "currentTimePointOnAir", [&](TimePoint point) { channel.CurrentTimePointOnAir(point); });
     IfTimeCode(json, "todTimecodeOnAir", [&](const TimeCode& timeCode) { channel.TodTimecodeOnAir(timeCode); });
     IfTimeCode(json, "userTimecodeOnAir", [&](const TimeCode& timeCode) { channel.UserTimecodeOnAir(timeCode); });
     IfText(json, "primaryTimecodeType",
-           [&](const std::string& text) { channel.PrimaryTimecodeType(ToTimecodePrimary(text)); });
-    IfObject(json, "inBoundary", [&](const Json::Value& object) { channel.InBoundary(BoundaryOf(object)); });
-    IfObject(json, "outBoundary", [&](const Json::Value& object) { channel.OutBoundary(BoundaryOf(object)); });
+           [&](const auto& text) { channel.PrimaryTimecodeType(ToTimecodePrimary(Owned(text))); });
+    IfObject(json, "inBoundary", [&](const Tree& object) { channel.InBoundary(BoundaryOf(object)); });
+    IfObject(json, "outBoundary", [&](const Tree& object) { channel.OutBoundary(BoundaryOf(object)); });
+}
+
+template <typename Tree>
+void ReadEntity(const Tree& json, Node& node)
+{
+    if (!IsOfType(json, "Node"))
+        return;
+    const auto textIn = [&](const char* key)
+    {
+        std::string text;
+        IfText(json, key, [&](auto found) { text = std::move(found); });
+        return text;
+    };
+    std::vector<std::string> addresses;
+    if (const auto* array = Find(json, "gbeIpAddresses"))
+        addresses = TextsOf(*array);
+    node = Node(Identifier(textIn("id")), IntIn(json, "serialNumber").value_or(Node::UndefinedSerialNumber()),
+                textIn("hostName"), textIn("ipAddress"), addresses, textIn("chassis"), textIn("hardwareRevision"),
+                textIn("tarvonelVersion"));
+}
+
+} // namespace
+
+void Read(const Json::Value& json, MediaInput& channel)
+{
+    ReadEntity(json, channel);
+}
+
+void Read(const Json::Value& json, MediaOutput& channel)
+{
+    ReadEntity(json, channel);
+}
+
+void Read(const Json::Value& json, Node& node)
+{
+    ReadEntity(json, node);
+}
+
+void Read(const rapidjson::Value& json, MediaInput& channel)
+{
+    ReadEntity(json, channel);
+}
+
+void Read(const rapidjson::Value& json, MediaOutput& channel)
+{
+    ReadEntity(json, channel);
+}
+
+void Read(const rapidjson::Value& json, Node& node)
+{
+    ReadEntity(json, node);
 }
 
 } // namespace Bench

@@ -4,6 +4,7 @@
 
 #include <json/value.h>
 #include <nlohmann/json.hpp>
+#include <rapidjson/document.h>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
@@ -23,8 +24,13 @@ Json::Value ToJsoncpp(const MediaInput& channel);
 /// One plain look-up of each member.
 void Read(const Json::Value& json, MediaInput& channel);
 void Read(const Json::Value& json, MediaOutput& channel);
+void Read(const Json::Value& json, Node& node);
+void Read(const rapidjson::Value& json, MediaInput& channel);
+void Read(const rapidjson::Value& json, MediaOutput& channel);
+void Read(const rapidjson::Value& json, Node& node);
 /// With nlohmann's from_json.
 void Read(const nlohmann::json& json, MediaInput& channel);
 void Read(const nlohmann::json& json, MediaOutput& channel);
+void Read(const nlohmann::json& json, Node& node);
 
 } // namespace Bench

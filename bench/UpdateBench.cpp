@@ -113,10 +113,10 @@ void WriteWholeChannel(State& state)
     }
 }
 
-BENCHMARK_CAPTURE(ApplyToMirror, many, 10000)->Name("apply to 10000 channels|library");
-BENCHMARK_CAPTURE(ApplyToMirror, few, 10)->Name("apply to 10000 channels|10 channels");
-BENCHMARK(MergeAtHand)->Name("apply to 10000 channels|MergeText at hand");
-BENCHMARK(WriteSmallUpdate)->Name("write small update|library");
-BENCHMARK(WriteWholeChannel)->Name("write small update|whole channel");
+BENCHMARK_CAPTURE(ApplyToMirror, many, 10000)->Name("updates: apply to one of 10000 channels|library");
+BENCHMARK_CAPTURE(ApplyToMirror, few, 10)->Name("updates: apply to one of 10000 channels|10 channels");
+BENCHMARK(MergeAtHand)->Name("updates: apply to one of 10000 channels|MergeText at hand");
+BENCHMARK(WriteSmallUpdate)->Name("updates: write a small one|library");
+BENCHMARK(WriteWholeChannel)->Name("updates: write a small one|whole channel");
 
 } // namespace

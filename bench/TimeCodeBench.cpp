@@ -128,13 +128,13 @@ void DurationRegex(State& state)
     }
 }
 
-BENCHMARK(ParseLibrary)->Name("time code: parse|library");
-BENCHMARK(ParseRegex)->Name("time code: parse|std::regex");
-BENCHMARK(CheckAndParseLibrary)->Name("time code: check and parse|library");
-BENCHMARK(CheckAndParseRegex)->Name("time code: check and parse|std::regex");
-BENCHMARK(FormatLibrary)->Name("time code: format|library");
-BENCHMARK(FormatPrintf)->Name("time code: format|snprintf");
-BENCHMARK(DurationLibrary)->Name("duration: check and parse|library");
-BENCHMARK(DurationRegex)->Name("duration: check and parse|std::regex");
+BENCHMARK(ParseLibrary)->Name("time codes: parse|library");
+BENCHMARK(ParseRegex)->Name("time codes: parse|std::regex");
+BENCHMARK(CheckAndParseLibrary)->Name("time codes: check and parse|library");
+BENCHMARK(CheckAndParseRegex)->Name("time codes: check and parse|std::regex");
+BENCHMARK(FormatLibrary)->Name("time codes: format|library");
+BENCHMARK(FormatPrintf)->Name("time codes: format|snprintf");
+BENCHMARK(DurationLibrary)->Name("time codes: duration, check and parse|library");
+BENCHMARK(DurationRegex)->Name("time codes: duration, check and parse|std::regex");
 
 } // namespace
