@@ -25,7 +25,7 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Mirrors
 ///         if (const auto result = mirror.Apply(line); !result)
 ///             std::cerr << result.ErrorMessage() << '\n';
 ///         else if (result.Effect() != Effect::Unchanged)
-///             Show(*mirror.FindChannel(result.Id()));
+///             std::cout << result.Id() << ' ' << ToString(result.Effect()) << '\n';
 ///
 /// Channels of both kinds share one space of identifiers; nodes have their own.
 ///
@@ -35,8 +35,8 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Mirrors
 /// where a reader would fail.
 ///
 /// Any number of threads may use the const operations at once, or one thread the others. There are no observers: what
-/// has happened is in the return value. Throws nothing but std::bad_alloc; the document is applied whole or not at all
-/// then, too.
+/// has happened is in the return value. Throws nothing but std::bad_alloc, which may leave a mixture of old and new
+/// members in the channel of the document.
 class QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Mirror
 {
 public:
@@ -49,8 +49,8 @@ public:
     ~Mirror();
 
     /// Merges an update, or a first document, into the channel with its identifier, which is made when there is none.
-    /// Members that the document does not have keep their values. A node is replaced, as its reader does.
-    /// The options may refuse more, and ask for the findings.
+    /// Members that the document does not have keep their values. A node is replaced, as its reader does. The options
+    /// may refuse more, and ask for the findings.
     ApplyResult Apply(const Common::Serialization::Json::JsonObject& document, const ReadOptions& options = {});
     /// The same from a text, parsed as by `MergeText`.
     template <typename Text>

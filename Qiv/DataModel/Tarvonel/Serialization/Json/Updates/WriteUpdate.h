@@ -18,28 +18,26 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Updates
 /// Writes the smallest document whose merge into `before` gives `after`, two states of one channel.
 ///
 /// The document has "_type", "id" unless it is empty, and the members that differ: nested objects whole, metadata by
-/// key. What has been cleared is written as the value that clears it where readers take one: an empty text, "NotSet",
-/// a duration of zero, the texts of the empty time code and time point, an empty reference or boundary, the speed 0/0,
-/// an operator index of -1. A time code without date goes out in its clock form, "10:00:00:00@25", unlike in a
-/// snapshot. None of the members can be left out.
+/// key, and of the two capacities those that bring about both. States differ when their documents do, see
+/// HaveEqualContent. What has been cleared is written as the value that clears it where readers take one: an empty
+/// text, "NotSet", a duration of zero, the texts of the empty time code and time point, an empty reference or boundary,
+/// the speed 0/0, an operator index of -1. A time code without date goes out in its clock form, "10:00:00:00@25",
+/// unlike in a snapshot. None of the members can be left out.
 ///
 /// Not all that channels can hold can be brought about by merging. What cannot is left out and listed in the result:
 ///
 /// - a sequence, a metadata key or profile that is gone, a server identifier of the operator that is gone or is no
 ///   positive multiple of 10
 /// - texts with a NUL, at which writers cut, or that are not well-formed UTF-8
-/// - enumerators outside of their enumeration, time codes without a text that is read back as it is, relative
-/// boundaries
-///   without a relative origin
+/// - values that are no enumerators, time codes without a text that is read back as it is, relative boundaries without
+///   a relative origin
 /// - references whose identifier is not that of their object
 /// - metadata keys with a dot, names that begin with the reserved "qiv.peloperator", a new profile without keys or
-/// under
-///   another name than its own, a profile of another kind than before
-///
-/// States are compared deeply: embedded objects by all of their members, speeds by both of their numbers.
+///   under another name than its own, a profile of another kind than before
 ///
 /// Refused, with nothing written: channels of different kinds, and channels with different identifiers. Throws what the
-/// Stringer throws where no value may stand, and std::bad_alloc; what was opened is closed then.
+/// Stringer throws where no value may stand, and std::bad_alloc, save inside of a speed or a boundary, whose writers
+/// are declared not to throw; what was opened is closed then. Several threads may compare the same states.
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT UpdateResult WriteUpdate(const Tarvonel::MediaIOs::MediaIO& before,
                                                                      const Tarvonel::MediaIOs::MediaIO& after,
                                                                      Common::Serialization::Json::Stringer& stringer);
