@@ -204,9 +204,10 @@ int main(int argc, char** argv)
                      "Gr\xC3\xB6\xC3\x9F"
                      "e, \xD0\x9F\xD1\x80\xD0\xB8\xD0\xB2\xD0\xB5\xD1\x82, "
                      "\xE6\x97\xA5\xE6\x9C\xAC ");
-    RegisterReading();
+    const bool repeats = argc > 1 && std::string_view(argv[1]) == "--repeat";
+    RegisterReading(!repeats);
 
-    if (argc > 1 && std::string_view(argv[1]) == "--repeat")
+    if (repeats)
         return Repeat({argv + 2, argv + argc});
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -36,7 +36,8 @@ void RegisterWork(const std::string& name, Prepare prepare)
     };
 }
 
-/// Conversions from trees and from text.
-void RegisterReading();
+/// Conversions from trees and from text. Peers are looked at first, unless their instructions are counted: that would
+/// take longer than the count.
+void RegisterReading(bool looksAtPeers);
 
 } // namespace Bench
