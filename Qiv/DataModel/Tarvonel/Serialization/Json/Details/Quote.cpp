@@ -51,6 +51,8 @@ std::size_t Show(std::string_view text, std::string& shown)
         shown.append(1, '\\').append(text.substr(0, 1));
     else if (character.value == '\n')
         shown = "\\n";
+    else if (character.value == '\r')
+        shown = "\\r";
     else if (character.value == '\t')
         shown = "\\t";
     else if (!IsEscaped(character.value))
