@@ -16,6 +16,7 @@
 
 #include <memory>
 #include <string>
+#include <typeinfo>
 #include <vector>
 
 namespace Qiv::Tests
@@ -58,6 +59,18 @@ TEST(Clone, HasTheContentAndSharesNothingThatChanges)
         ASSERT_TRUE(MergeText(text, *IndependentCopy(*clone)));
         EXPECT_EQ(ToText(channel), text);
     }
+}
+
+TEST(MergeText, LeavesTheChannelAsItWasWhenItThrows)
+{
+    const FullyQualifiedName name("qiv.peloperator");
+    MediaInput channel;
+    channel.Name("kept");
+    channel.Metadata().Set(name, std::make_shared<GenericMetadataProfile>(name)); // of the wrong kind for its name
+    const auto before = ToText(channel);
+    const auto* const text = R"({"_type":"MediaInput","name":"new","metadata":{"a.b":"c","qiv.peloperator.index":1}})";
+    EXPECT_THROW(static_cast<void>(MergeText(text, channel)), std::bad_cast);
+    EXPECT_EQ(ToText(channel), before);
 }
 
 TEST(MetadataValues, AreListedAndSetByTheKeysOfDocuments)
