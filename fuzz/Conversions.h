@@ -113,6 +113,16 @@ std::string Text(const Conversion<Entity>& conversion, const Entity& entity, Str
     return text;
 }
 
+/// Whether two entities are equal, and written alike.
+template <typename Entity>
+bool AreAlike(const Conversion<Entity>& conversion, const Entity& left, const Entity& right)
+{
+    if constexpr (std::is_same_v<Entity, std::unique_ptr<Boundary>>)
+        if (left == nullptr || right == nullptr)
+            return left == right;
+    return AreSame(left, right) && Text(conversion, left) == Text(conversion, right);
+}
+
 template <typename Entity>
 Entity Target(bool isFilled)
 {

@@ -95,46 +95,9 @@ void CheckForm(const std::vector<Finding>& findings, Json::Value document, std::
 }
 
 template <typename Entity>
-bool AreAlike(const Conversion<Entity>& conversion, const Entity& left, const Entity& right)
-{
-    if constexpr (std::is_same_v<Entity, std::unique_ptr<Boundary>>)
-        if (left == nullptr || right == nullptr)
-            return left == right;
-    return AreSame(left, right) && Text(conversion, left) == Text(conversion, right);
-}
-
-/// Reading from text: it never ends the process, and does all or nothing.
-template <typename Entity>
-void ExerciseText(const Conversion<Entity>& conversion, DocumentKind kind, std::string_view text, bool isFilled)
-{
-    auto merged = Target<Entity>(isFilled);
-    const auto result = MergeText(text, merged);
-    auto replaced = Target<Entity>(isFilled);
-    const auto snapshotResult = ReadSnapshotText(text, replaced);
-    Check(static_cast<bool>(result) == static_cast<bool>(snapshotResult) &&
-              result.ErrorMessage() == snapshotResult.ErrorMessage(),
-          "a snapshot is refused for the same reason", result.ErrorMessage(), snapshotResult.ErrorMessage());
-
-    const auto unchanged = Target<Entity>(isFilled);
-    Json::Value document;
-    const bool isDocument = static_cast<bool>(ParseText(text, document));
-    const auto findings = isDocument ? InspectDocument(document, kind) : std::vector<Finding>();
-    if (!isDocument || FirstFatal(findings) != nullptr || FirstFailure(findings) != nullptr)
-    {
-        Check(!result && AreAlike(conversion, merged, unchanged) && AreAlike(conversion, replaced, unchanged),
-              "a refused text changes nothing", result.ErrorMessage());
-        return;
-    }
-    auto expected = Target<Entity>(isFilled);
-    Check(conversion.read(document, expected) && result && AreAlike(conversion, merged, expected),
-          "a text is read as its document is", text, result.ErrorMessage());
-}
-
-template <typename Entity>
 void Exercise(const Conversion<Entity>& conversion, DocumentKind kind, const std::optional<Json::Value>& document,
               std::string_view text, bool isFilled)
 {
-    ExerciseText(conversion, kind, text, isFilled);
     if (!document)
         return;
     const auto findings = InspectDocument(*document, kind);
@@ -194,7 +157,7 @@ void ExerciseAny(std::string_view text)
 
 } // namespace
 
-/// The inspection of any document against the reader, and reading from any text.
+/// The inspection of any document against the reader, and reading of any kind.
 ///
 /// The first byte says what the document should be, the second how to parse and into what; the text follows.
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
