@@ -1,10 +1,24 @@
 #include "Conversions.h"
 
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Channels/Clone.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Channels/MetadataValues.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/HaveEqualContent.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ToText.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Mirrors/Mirror.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Updates/WriteUpdate.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/WholeReading.h>
+
 #include <gtest/gtest.h>
+
+#include <dlfcn.h>
 
 #include <atomic>
 #include <cstdlib>
 #include <new>
+#include <sstream>
 #include <string>
 
 namespace
@@ -13,12 +27,17 @@ namespace
 std::atomic<long> live{0};     // blocks that have not been given back
 std::atomic<long> failing{-1}; // allocations until one fails; negative: none does
 
+bool Fails()
+{
+    return failing >= 0 && failing-- == 0;
+}
+
 } // namespace
 
 // Those for arrays call these.
 void* operator new(std::size_t size)
 {
-    void* const block = failing >= 0 && failing-- == 0 ? nullptr : std::malloc(size == 0 ? 1 : size);
+    void* const block = Fails() ? nullptr : std::malloc(size == 0 ? 1 : size);
     if (block == nullptr)
         throw std::bad_alloc();
     ++live;
@@ -34,97 +53,173 @@ void operator delete(void* block, std::size_t) noexcept
     operator delete(block);
 }
 
+#ifdef QIV_REPLACES_REALLOC
+// Where the Stringer has its memory from.
+extern "C" void* realloc(void* block, std::size_t size) noexcept
+{
+    static const auto next = reinterpret_cast<void* (*)(void*, std::size_t)>(dlsym(RTLD_NEXT, "realloc"));
+    return Fails() ? nullptr : next(block, size);
+}
+#endif
+
 namespace Qiv::Tests
 {
+
+using namespace DataModel::Tarvonel::Serialization::Json;
+using namespace DataModel::Tarvonel::Serialization::Json::Channels;
+using namespace DataModel::Tarvonel::Serialization::Json::Documents;
+using namespace DataModel::Tarvonel::Serialization::Json::Updates;
+using DataModel::Tarvonel::Serialization::Json::Mirrors::Mirror;
+
 namespace
 {
 
-/// Runs `work` with its n-th allocation failing; tells whether one failed.
-template <typename Work>
-bool FailsAt(long n, const Work& work)
+// The document of a player with something else in one place.
+std::string With(const std::string& replacement, const std::string& replaced)
 {
-    bool hasFailed = false;
+    auto text = fullOutput;
+    return text.replace(text.find(replaced), replaced.size(), replacement);
+}
+std::string LongMetadata()
+{
+    std::string metadata;
+    for (int i = 0; i < 100; ++i)
+        metadata += "\"x." + std::to_string(i) + R"(":"beyond any buffer on the stack\n",)";
+    return metadata;
+}
+const auto text = With(R"("unknown":0,"metadata":{)" + LongMetadata(), R"("metadata":{)");
+const auto failingText = With("{}", R"({"_type":"Speed","numerator":-3,"denominator":2})");
+const auto fatalText = With(R"("value":"x")", R"("value":"0")");
+const auto json = Parse(text), failingJson = Parse(failingText);
+
+/// What operations work on, and leave what they come to in.
+struct Subject
+{
+    MediaOutput channel =
+        FromText<MediaOutput>(R"({"_type":"MediaOutput","id":"c2","name":"old","metadata":{"a.b":"0"}})");
+    JsonObject parsed = "old";
+    Mirror mirror;
+    std::string output;
+
+    Subject()
+    {
+        static_cast<void>(mirror.Apply(Written(channel)));
+        output.reserve(1000); // for what is noted
+    }
+    std::string State() const
+    {
+        std::ostringstream state;
+        mirror.WriteAll(state);
+        return state.str() + Written(channel) + parsed.toStyledString() + output;
+    }
+    void Note(const TextResult& result) { output = result.Sentence(); }
+    void Note(const Result& result) { output = result.ErrorMessage(); }
+};
+
+struct Operation
+{
+    const char* name;
+    void (*run)(Subject&);
+    bool mayMix = false; // a part of it may be done when memory runs out
+};
+
+const Operation operations[] = {
+    {"ParseText", [](Subject& s) { s.Note(ParseText(text, s.parsed)); }},
+    {"ParseText of no JSON", [](Subject& s) { s.Note(ParseText(text + "]", s.parsed)); }},
+    {"MergeText", [](Subject& s) { s.Note(MergeText(text, s.channel)); }, true},
+    {"MergeText of what fails", [](Subject& s) { s.Note(MergeText(failingText, s.channel)); }},
+    {"MergeText of what ends the process", [](Subject& s) { s.Note(MergeText(fatalText, s.channel)); }},
+    {"ReadSnapshotText", [](Subject& s) { s.Note(ReadSnapshotText(text, s.channel)); }, true},
+    {"MergeWhole", [](Subject& s) { s.Note(MergeWhole(json, s.channel)); }, true},
+    {"MergeWhole of what fails", [](Subject& s) { s.Note(MergeWhole(failingJson, s.channel)); }},
+    {"ReadSnapshot", [](Subject& s) { s.Note(ReadSnapshot(json, s.channel)); }, true},
+    {"JsonToMediaIOConverter",
+     [](Subject& s) { s.Note(JsonToMediaIOConverter().To(json, static_cast<MediaIO&>(s.channel))); }, true},
+    {"InspectDocument", [](Subject& s) { s.output = InspectDocument(failingJson).front().sentence; }},
+    {"ReadAny", [](Subject& s) { s.output = ToText(ReadAny(json).Entity()); }},
+    {"ReadAnyText", [](Subject& s) { s.output = ToText(ReadAnyText(fullNode).Entity()); }},
+    {"ToText", [](Subject& s) { s.output = ToText(FromText<MediaOutput>(text), Layout::Pretty); }},
+    {"Clone", [](Subject& s) { s.output = Written(*Clone(s.channel)); }},
+    {"IndependentCopy", [](Subject& s) { s.output = Written(IndependentCopy(s.channel)); }},
+    {"HaveEqualContent", [](Subject& s) { s.output = HaveEqualContent(s.channel, s.channel) ? "equal" : "different"; }},
+    {"MetadataValues", [](Subject& s) { s.output = MetadataValues(s.channel.Metadata()).front().second; }},
+    {"MetadataValue", [](Subject& s) { s.output = *MetadataValue(s.channel.Metadata(), "a.b"); }},
+    {"SetMetadataValue", [](Subject& s) { SetMetadataValue(s.channel.Metadata(), "a.b", std::string(40, 'v')); }},
+    {"SetMetadataValue of a new key", [](Subject& s) { SetMetadataValue(s.channel.Metadata(), "new.k", text); }},
+    {"SetMetadataValue of the operator",
+     [](Subject& s) { SetMetadataValue(s.channel.Metadata(), "qiv.peloperator.index", "1"); }},
+    {"WriteUpdate",
+     [](Subject& s)
+     {
+         Stringer stringer;
+         s.output = WriteUpdate(s.channel, FromText<MediaOutput>(text), stringer) ? stringer.ToString() : "refused";
+     }},
+    {"Mirror::Apply", [](Subject& s) { s.Note(s.mirror.Apply(text)); }, true},
+    {"Mirror::Apply of a new node", [](Subject& s) { s.Note(s.mirror.Apply(Parse(fullNode))); }},
+    {"Mirror::Apply of what fails", [](Subject& s) { s.Note(s.mirror.Apply(failingText)); }},
+    {"Mirror::ApplySnapshot", [](Subject& s) { s.Note(s.mirror.ApplySnapshot(json)); }, true},
+    {"Mirror::ReadAll",
+     [](Subject& s)
+     {
+         std::istringstream stream(fullInput + "\n" + text);
+         s.output = std::to_string(s.mirror.ReadAll(stream).refused);
+         if (stream.bad()) // what running out of memory inside a stream comes to
+             throw std::bad_alloc();
+     },
+     true},
+    {"Mirror::WriteAll",
+     [](Subject& s)
+     {
+         std::ostringstream stream;
+         s.mirror.WriteAll(stream);
+         if (stream.bad())
+             throw std::bad_alloc();
+         s.output = stream.str();
+     }},
+};
+
+/// Runs an operation with its n-th allocation failing; tells whether one failed.
+bool FailsAt(long n, const Operation& operation, Subject& subject)
+{
     failing = n;
     try
     {
-        work();
+        operation.run(subject);
     }
     catch (const std::bad_alloc&)
     {
-        hasFailed = true;
+        failing = -1;
+        return true;
     }
     failing = -1;
-    return hasFailed;
+    return false;
 }
 
-/// Fails each allocation in turn: attempt(n) tells whether its n-th one failed, and gives back whatever it took.
-template <typename Attempt>
-void FailEachAllocation(const Attempt& attempt)
+TEST(AllocationFailure, ReachesTheCallerLeaksNothingAndLeavesTargetsAsTheyWere)
 {
-    attempt(-1); // makes what lives as long as the process
-    long n = 0;
-    for (bool failed = true; failed; ++n)
+    for (const auto& operation : operations)
     {
-        const long before = live;
-        failed = attempt(n);
-        ASSERT_EQ(live, before) << n;
-    }
-}
-
-/// Reads and writes with each allocation failing: the target stays valid, and takes the document afterwards.
-template <typename Entity, typename Reader = ReaderOf<Entity>, typename Writer = WriterOf<Entity>>
-void Fail(const std::string& before, const std::string& text, const Reader& reader = Reader(),
-          const Writer& writer = Writer())
-{
-    const auto json = Parse(text);
-    Entity whole;
-    Read(before, whole, reader);
-    static_cast<void>(reader.To(json, whole));
-    const auto expected = Written(whole, writer);
-    FailEachAllocation(
-        [&](long n)
+        SCOPED_TRACE(operation.name);
+        Subject whole;
+        const auto before = whole.State();
+        operation.run(whole); // makes what lives as long as the process, too
+        const auto after = whole.State();
+        bool hasFailed = true;
+        for (long n = 0; hasFailed; ++n)
         {
-            Entity entity;
-            Read(before, entity, reader);
-            const bool failed = FailsAt(n, [&] { static_cast<void>(reader.To(json, entity)); });
-            static_cast<void>(Parse(Written(entity, writer)));
-            static_cast<void>(reader.To(json, entity));
-            EXPECT_EQ(Written(entity, writer), expected) << n;
-            return failed;
-        });
-    FailEachAllocation(
-        [&](long n)
-        {
-            Stringer stringer;
-            return FailsAt(n, [&] { static_cast<void>(writer.To(whole, stringer)); });
-        });
-}
-
-/// What channels of both kinds have in common: the converters of a whole channel let no exception out.
-struct CommonReader
-{
-    Result To(const JsonObject& json, MediaIO& channel) const { return JsonToMediaIOConverter().Append(json, channel); }
-};
-struct CommonWriter
-{
-    Result To(const MediaIO& channel, Stringer& stringer) const
-    {
-        const auto object = stringer.ObjectScope();
-        return MediaIOToJsonConverter().AppendMediaIO(channel, stringer);
+            const long liveBefore = live;
+            {
+                Subject subject;
+                hasFailed = FailsAt(n, operation, subject);
+                const auto expected = !hasFailed ? after : operation.mayMix ? subject.State() : before;
+                EXPECT_EQ(subject.State(), expected) << n;
+                if (hasFailed)
+                    operation.run(subject);
+                EXPECT_EQ(subject.State(), after) << n;
+            }
+            EXPECT_EQ(live, liveBefore) << n;
+        }
     }
-};
-
-TEST(AllocationFailure, LeaksNothingAndLeavesTargetsValid)
-{
-    // Long enough for any buffer that needs no allocation.
-    const auto longText = "\"" + std::string(5000, 'x') + "\"";
-    Fail<Node>(R"({"id":"n"})", R"({"id":"n2","gbeIpAddresses":["a","b"],"hostName":)" + longText + "}");
-    Fail<SequenceOutput>(R"({"editMode":false})",
-                         R"({"sequenceOnAir":{"sequence":{"name":)" + longText + R"(,"id":"s"}},)" +
-                             fullSequenceOutput.substr(fullSequenceOutput.find("\"assetBlock")));
-    Fail<MetadataProfileDictionary>(R"({"a.b":"0","y.y":"y"})",
-                                    R"({"x.long":)" + longText + "," + fullMetadata.substr(1));
-    Fail<MediaInput>(R"({"id":"old"})", fullInput, CommonReader(), CommonWriter());
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include <charconv>
 #include <cstdint>
+#include <new>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
 {
@@ -129,7 +130,14 @@ private:
 JsonObject ToTree(const TextDocument& document)
 {
     JsonObject root;
-    TreeBuilder(document.Nodes()).Build(root);
+    try
+    {
+        TreeBuilder(document.Nodes()).Build(root);
+    }
+    catch (const ::Json::RuntimeError&)
+    {
+        throw std::bad_alloc(); // which jsoncpp tells so when it has no memory for a text
+    }
     return root;
 }
 

@@ -2,11 +2,11 @@
 
 #include <Qiv/BusinessEntityModel/Edits/Serialization/Json/SequenceToJsonConverter.h>
 #include <Qiv/DataModel/MediaAssets/Serialization/Json/MediaAssetToJsonConverter.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/BoundaryToJsonConverter.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/Writing.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaIOToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MetadataProfileDictionaryToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/SequenceOutputToJsonConverter.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/SpeedToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Nodes/Json/NodeToJsonConverter.h>
 
 #include <variant>
@@ -28,12 +28,13 @@ Result Write(const Tarvonel::MediaIOs::SequenceOutput& sequenceOutput, Stringer&
 
 Result Write(const Tarvonel::MediaIOs::Speed& speed, Stringer& stringer)
 {
-    return SpeedToJsonConverter().To(speed, stringer);
+    return Details::WriteSpeed(stringer, speed);
 }
 
 Result Write(const Tarvonel::MediaIOs::Boundary& boundary, Stringer& stringer)
 {
-    return BoundaryToJsonConverter().To(boundary, stringer);
+    return Details::WriteBoundary(stringer, boundary,
+                                  MediaAssets::Serialization::Json::TimePointToJsonObjectConverter());
 }
 
 Result Write(const Tarvonel::Nodes::Node& node, Stringer& stringer)

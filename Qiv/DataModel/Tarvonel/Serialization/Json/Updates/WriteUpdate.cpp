@@ -3,6 +3,7 @@
 #include <Qiv/Common/Serialization/Json/Details/DurationForm.h>
 #include <Qiv/Common/Serialization/Json/Details/TimePointForm.h>
 #include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryAbsolute.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryRelative.h>
 #include <Qiv/DataModel/Tarvonel/MediaIOs/MediaInput.h>
@@ -10,13 +11,11 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/SameContent.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Updates/Details/MetadataUpdate.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Updates/Details/Update.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/BoundaryToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/AssetBlockForm.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelForm.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/SequenceOutputForm.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/Writing.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/SequenceOutputToJsonConverter.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/SpeedToJsonConverter.h>
 #include <Qiv/TimePoints/QivTimeCodeFormatter.h>
 #include <Qiv/TimePoints/QivTimeCodeParser.h>
 
@@ -40,13 +39,14 @@ using Details::ObstacleOfText;
 using Json::Details::AreSame;
 using Json::Details::IsEnumerator;
 using MediaAssets::MediaAsset;
-using MediaIOs::Json::BoundaryToJsonConverter;
+using MediaAssets::Serialization::Json::TimePointToJsonObjectConverter;
 using MediaIOs::Json::SequenceOutputToJsonConverter;
-using MediaIOs::Json::SpeedToJsonConverter;
 using MediaIOs::Json::Details::AppendReference;
 using MediaIOs::Json::Details::AssetBlockForm;
 using MediaIOs::Json::Details::ChannelForm;
 using MediaIOs::Json::Details::SequenceOutputForm;
+using MediaIOs::Json::Details::WriteBoundary;
+using MediaIOs::Json::Details::WriteSpeed;
 using Tarvonel::MediaIOs::Boundary;
 using Tarvonel::MediaIOs::BoundaryAbsolute;
 using Tarvonel::MediaIOs::BoundaryOrigin;
@@ -162,14 +162,15 @@ void Write(const Duration& duration, Stringer& stringer)
 
 void Write(const Speed& speed, Stringer& stringer)
 {
-    static_cast<void>(SpeedToJsonConverter().To(speed, stringer)); // never fails
+    static_cast<void>(WriteSpeed(stringer, speed)); // never fails
 }
 
 void Write(const std::unique_ptr<Boundary>& boundary, Stringer& stringer)
 {
     // Of a kind without obstacle; an empty one of any kind is written as the empty one that readers know.
-    const BoundaryToJsonConverter writer;
-    static_cast<void>(boundary->IsEmpty() ? writer.To(BoundaryAbsolute(), stringer) : writer.To(*boundary, stringer));
+    const TimePointToJsonObjectConverter timePoints;
+    static_cast<void>(boundary->IsEmpty() ? WriteBoundary(stringer, BoundaryAbsolute(), timePoints)
+                                          : WriteBoundary(stringer, *boundary, timePoints));
 }
 
 void Write(const SharedReference<MediaAsset>& reference, Stringer& stringer)

@@ -27,29 +27,47 @@ BoundaryToJsonConverter::~BoundaryToJsonConverter() = default;
 
 Result BoundaryToJsonConverter::To(const Boundary& boundary, Stringer& stringer) const noexcept
 {
+    return Details::WriteBoundary(stringer, boundary, *timepointConverter_);
+}
+
+Result BoundaryToJsonConverter::Append(Stringer& stringer, const BoundaryAbsolute& boundary) const noexcept
+{
+    return Details::AppendBoundary(stringer, boundary, *timepointConverter_);
+}
+
+Result BoundaryToJsonConverter::Append(Stringer& stringer, const BoundaryRelative& boundary) const noexcept
+{
+    return Details::AppendBoundary(stringer, boundary);
+}
+
+Result Details::WriteBoundary(Stringer& stringer, const Boundary& boundary,
+                              const ToJsonConverter<TimePoint>& timepointConverter)
+{
     const auto object = stringer.ObjectScope();
     if (boundary.Origin() != BoundaryOrigin::Absolute)
     {
         const auto* const relative = dynamic_cast<const BoundaryRelative*>(&boundary);
-        return relative == nullptr ? Result("Null BoundaryRelative") : Append(stringer, *relative);
+        return relative == nullptr ? Result("Null BoundaryRelative") : AppendBoundary(stringer, *relative);
     }
     const auto* const absolute = dynamic_cast<const BoundaryAbsolute*>(&boundary);
-    return absolute == nullptr ? Result("Null BoundaryAbsolute") : Append(stringer, *absolute);
+    return absolute == nullptr ? Result("Null BoundaryAbsolute")
+                               : AppendBoundary(stringer, *absolute, timepointConverter);
 }
 
-Result BoundaryToJsonConverter::Append(Stringer& stringer, const BoundaryAbsolute& boundary) const noexcept
+Result Details::AppendBoundary(Stringer& stringer, const BoundaryAbsolute& boundary,
+                               const ToJsonConverter<TimePoint>& timepointConverter)
 {
     stringer.Member(keyOf<Form::type>, Form::absoluteTag);
     if (boundary.Timepoint() != TimePoint::Empty())
     {
         stringer.Key(keyOf<Form::timepoint>);
         // Dropped on purpose: it must not fail the boundary.
-        static_cast<void>(AppendNested(stringer, *timepointConverter_, boundary.Timepoint()));
+        static_cast<void>(AppendNested(stringer, timepointConverter, boundary.Timepoint()));
     }
     return {};
 }
 
-Result BoundaryToJsonConverter::Append(Stringer& stringer, const BoundaryRelative& boundary) const noexcept
+Result Details::AppendBoundary(Stringer& stringer, const BoundaryRelative& boundary)
 {
     stringer.Member(keyOf<Form::type>, Form::relativeTag);
     stringer.Member(keyOf<Form::origin>, ToString(boundary.Origin()).c_str());

@@ -1,17 +1,13 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaIOToJsonConverter.h>
 
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/Writing.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaInputToJsonConverter.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaOutputToJsonConverter.h>
 
 #include <utility>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
-using Tarvonel::MediaIOs::MediaInput;
 using Tarvonel::MediaIOs::MediaIO;
-using Tarvonel::MediaIOs::MediaOutput;
 
 MediaIOToJsonConverter::MediaIOToJsonConverter() : MediaIOToJsonConverter(nullptr) {}
 
@@ -24,15 +20,21 @@ MediaIOToJsonConverter::~MediaIOToJsonConverter() = default;
 
 Result MediaIOToJsonConverter::To(const MediaIO& channel, Stringer& stringer) const
 {
+    return Details::WriteMediaIO(stringer, channel, timepointConverter_);
+}
+
+Result Details::WriteMediaIO(Stringer& stringer, const MediaIO& channel,
+                             const SharedTimePointWriter& timepointConverter)
+{
     const auto object = stringer.ObjectScope();
     switch (channel.GetMode())
     {
     case MediaIO::Mode::Input:
-        return MediaInputToJsonConverter(timepointConverter_)
-            .AppendMediaInput(stringer, static_cast<const MediaInput&>(channel));
+        return AppendMediaInput(stringer, static_cast<const Tarvonel::MediaIOs::MediaInput&>(channel),
+                                *timepointConverter);
     case MediaIO::Mode::Output:
-        return MediaOutputToJsonConverter(timepointConverter_)
-            .AppendMediaOutput(stringer, static_cast<const MediaOutput&>(channel));
+        return AppendMediaOutput(stringer, static_cast<const Tarvonel::MediaIOs::MediaOutput&>(channel),
+                                 timepointConverter);
     }
     return "Unsupported MediaIO type - should be MediaInput or MediaOutput";
 }

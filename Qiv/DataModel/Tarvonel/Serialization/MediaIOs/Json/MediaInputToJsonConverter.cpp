@@ -9,7 +9,6 @@ namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
 using Common::Serialization::Json::Details::keyOf;
-using Details::AppendUnlessEmpty;
 using MediaAssets::TimecodePrimary;
 using Tarvonel::MediaIOs::MediaInput;
 using TimePoints::TimePoint;
@@ -32,10 +31,16 @@ Result MediaInputToJsonConverter::To(const MediaInput& channel, Stringer& string
 
 Result MediaInputToJsonConverter::AppendMediaInput(Stringer& stringer, const MediaInput& channel) const noexcept
 {
+    return Details::AppendMediaInput(stringer, channel, *timepointConverter_);
+}
+
+Result Details::AppendMediaInput(Stringer& stringer, const MediaInput& channel,
+                                 const ToJsonConverter<TimePoint>& timepointConverter)
+{
     stringer.Member(keyOf<Form::type>, Form::recorderTag);
 
     // Without this converter's time point writer on purpose: the common members keep the default form.
-    if (auto result = Details::AppendCommonMembers(stringer, channel); !result)
+    if (auto result = AppendCommonMembers(stringer, channel); !result)
         return result;
 
     stringer.Member(keyOf<Form::recordingStatus>, ToString(channel.RecordingStatus()).c_str());
@@ -44,7 +49,7 @@ Result MediaInputToJsonConverter::AppendMediaInput(Stringer& stringer, const Med
     {
         stringer.Key(keyOf<Form::lastTimePoint>);
         // Dropped on purpose: it must not fail the channel.
-        static_cast<void>(AppendNested(stringer, *timepointConverter_, channel.LastTimePoint()));
+        static_cast<void>(AppendNested(stringer, timepointConverter, channel.LastTimePoint()));
     }
 
     AppendUnlessEmpty(stringer, keyOf<Form::lastTodTimecode>, channel.LastTodTimecode());

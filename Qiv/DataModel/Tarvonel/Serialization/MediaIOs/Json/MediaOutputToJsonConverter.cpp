@@ -2,12 +2,11 @@
 
 #include <Qiv/Common/Serialization/Json/Details/TimePointForm.h>
 #include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/BoundaryToJsonConverter.h>
+#include <Qiv/DataModel/MediaAssets/Serialization/Json/TimePointToJsonObjectConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelForm.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/Writing.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/MediaIOToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/SequenceOutputToJsonConverter.h>
-#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/SpeedToJsonConverter.h>
 
 #include <utility>
 
@@ -17,8 +16,8 @@ namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 using Common::Serialization::Json::AppendNanosecondsObject;
 using Common::Serialization::Json::Details::keyOf;
 using Common::Serialization::Json::Details::TimePointForm;
-using Details::AppendUnlessEmpty;
 using MediaAssets::TimecodePrimary;
+using MediaAssets::Serialization::Json::TimePointToJsonObjectConverter;
 using Tarvonel::MediaIOs::MediaOutput;
 using Tarvonel::MediaIOs::PlayingLoopMode;
 using TimePoints::TimePoint;
@@ -39,15 +38,21 @@ Result MediaOutputToJsonConverter::To(const MediaOutput& channel, Stringer& stri
     return AppendMediaOutput(stringer, channel);
 }
 
+Result MediaOutputToJsonConverter::AppendMediaOutput(Stringer& stringer, const MediaOutput& channel) const noexcept
+{
+    return Details::AppendMediaOutput(stringer, channel, timepointConverter_);
+}
+
 // The results of the nested writers below, except that of the common members, are not looked at on purpose: the channel
 // goes out with whatever they wrote.
-Result MediaOutputToJsonConverter::AppendMediaOutput(Stringer& stringer, const MediaOutput& channel) const noexcept
+Result Details::AppendMediaOutput(Stringer& stringer, const MediaOutput& channel,
+                                  const SharedTimePointWriter& timepointConverter)
 {
     stringer.Member(keyOf<Form::type>, Form::playerTag);
 
     // One for the process, which keeps the time point writer of whoever comes first. Never destroyed, so that channels
     // can still be written while the process ends.
-    static const auto& mediaIOConverter = *new MediaIOToJsonConverter(timepointConverter_);
+    static const auto& mediaIOConverter = *new MediaIOToJsonConverter(timepointConverter);
     if (auto result = mediaIOConverter.AppendMediaIO(channel, stringer); !result)
         return result;
 
@@ -56,7 +61,7 @@ Result MediaOutputToJsonConverter::AppendMediaOutput(Stringer& stringer, const M
     if (channel.SpeedOnAir().Denominator() != 0)
     {
         stringer.Key(keyOf<Form::speedOnAir>);
-        static_cast<void>(SpeedToJsonConverter().To(channel.SpeedOnAir(), stringer));
+        static_cast<void>(WriteSpeed(stringer, channel.SpeedOnAir()));
     }
 
     if (channel.GlobalLoopMode() != PlayingLoopMode::Unknown)
@@ -80,20 +85,20 @@ Result MediaOutputToJsonConverter::AppendMediaOutput(Stringer& stringer, const M
     if (channel.Sequence().HasValue())
     {
         stringer.Key(keyOf<Form::sequence>);
-        static_cast<void>(SequenceOutputToJsonConverter(timepointConverter_).To(*channel.Sequence(), stringer));
+        static_cast<void>(SequenceOutputToJsonConverter(timepointConverter).To(*channel.Sequence(), stringer));
     }
 
     if (!channel.InBoundary()->IsEmpty())
     {
         stringer.Key(keyOf<Form::inBoundary>);
-        static_cast<void>(BoundaryToJsonConverter(timepointConverter_).To(*channel.InBoundary(), stringer));
+        static_cast<void>(WriteBoundary(stringer, *channel.InBoundary(), *timepointConverter));
     }
 
     if (!channel.OutBoundary()->IsEmpty())
     {
         // With a time point writer of its own, unlike the in boundary; receivers expect the default form here.
         stringer.Key(keyOf<Form::outBoundary>);
-        static_cast<void>(BoundaryToJsonConverter().To(*channel.OutBoundary(), stringer));
+        static_cast<void>(WriteBoundary(stringer, *channel.OutBoundary(), TimePointToJsonObjectConverter()));
     }
 
     return {};

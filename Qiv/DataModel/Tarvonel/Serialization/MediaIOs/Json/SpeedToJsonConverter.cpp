@@ -1,6 +1,7 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/SpeedToJsonConverter.h>
 
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/SpeedForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/Writing.h>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
@@ -12,13 +13,23 @@ SpeedToJsonConverter::~SpeedToJsonConverter() = default;
 
 Result SpeedToJsonConverter::To(const Speed& speed, Stringer& stringer) const noexcept
 {
-    const auto object = stringer.ObjectScope();
-    return AppendSpeed(stringer, speed);
+    return Details::WriteSpeed(stringer, speed);
 }
 
 Result SpeedToJsonConverter::AppendSpeed(Stringer& stringer, const Speed& speed) const noexcept
 {
-    using Form = Details::SpeedForm;
+    return Details::AppendSpeed(stringer, speed);
+}
+
+Result Details::WriteSpeed(Stringer& stringer, const Speed& speed)
+{
+    const auto object = stringer.ObjectScope();
+    return AppendSpeed(stringer, speed);
+}
+
+Result Details::AppendSpeed(Stringer& stringer, const Speed& speed)
+{
+    using Form = SpeedForm;
 
     stringer.Member(keyOf<Form::type>, Form::tag);
     stringer.Key(keyOf<Form::numerator>).Value(speed.Numerator());
