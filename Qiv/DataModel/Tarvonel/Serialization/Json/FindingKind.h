@@ -8,12 +8,16 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json
 {
 
 /// What an inspection found. Readers pass silently over all but the last two.
+///
+/// An `InvalidValue` is a text that no enumerator, time code or duration has; a number out of range, or with something
+/// behind it; another "_type" than that of an object which is skipped for it; an identifier that is no text; and what
+/// is read as it stands, but not written back so: a text or a metadata key with a NUL, a negative operator index.
 enum class FindingKind
 {
     UnknownMember, ///< nothing reads a member of this name here
     Ignored,       ///< the member is known, but in this place or form nothing is taken from it
     WrongType,     ///< null or a value of another JSON type than the member has; skipped
-    InvalidValue,  ///< a text that no enumerator, time code or duration has, or a number out of range
+    InvalidValue,  ///< taken otherwise than it stands, or lost when it is written again; see the sentence
     MissingMember, ///< a required member is absent, for which the object around it is skipped
     Failure,       ///< makes the reader fail
     EndsProcess,   ///< makes the reader end the process through std::terminate

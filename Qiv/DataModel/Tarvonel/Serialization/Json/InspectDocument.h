@@ -23,8 +23,16 @@ inline constexpr std::size_t mostFindings = 100'000;
 /// first `Failure` (see FirstFailure) and succeeds when there is none, provided that nothing ends the process. What
 /// the reader would not reach after that failure is inspected all the same, apart from the inside of an object with a
 /// wrong "_type": a document is called fatal also when a failure would keep the reader from the fatal member. A channel
-/// with a wrong "_type" or none is still searched for what ends the process. In what the writers write nothing is found
-/// but time codes that do not come back: those without date, and those with a frame number of three digits.
+/// with a wrong "_type" or none is still searched for what ends the process.
+///
+/// In what the writers write nothing is found, unless the entity holds what does not come back:
+///
+/// - time codes without date, and those with a frame number of three digits
+/// - enumerators outside of their enumeration
+/// - references with another identifier than that of their object
+/// - a relative boundary with the absolute origin, which is written as an empty object, so that the reader fails
+/// - a server identifier of the operator that is no positive multiple of 10, and metadata names that begin with the
+///   reserved "qiv.peloperator", or that have no dot before a NUL, at which they are cut
 ///
 /// Members with a `WrongType`, `UnknownMember` or `Ignored` may be removed without any effect on the entity, as long
 /// as the document has no failure and the object around them does not become empty, which readers refuse.

@@ -25,7 +25,8 @@
 /// the order of reading is told. Each failure comes with its place, and the target is as it was.
 ///
 /// No text makes these functions throw, but memory that runs out (`std::bad_alloc`); a target may, as
-/// `JsonToMediaIOConverter` says. They may be called by several threads, each with a target of its own.
+/// `JsonToMediaIOConverter` says. What becomes of the target then, `MergeWhole` says. They may be called by several
+/// threads, each with a target of its own.
 namespace Qiv::DataModel::Tarvonel::Serialization::Json
 {
 

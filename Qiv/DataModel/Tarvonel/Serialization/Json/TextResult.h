@@ -36,7 +36,8 @@ public:
         return errorMessage_;
     }
     /// What is wrong, told to people: that of the finding when the reader fails (InspectDocument), otherwise the
-    /// message. One line of printable text, in which a text of the document is cut to 80 characters. Empty on success.
+    /// message. One line of printable text, in which a text of the document is cut to 80 characters, and the reader's
+    /// own text to 200. Empty on success.
     const std::string& Sentence() const noexcept
     {
         return sentence_.empty() ? errorMessage_ : sentence_;

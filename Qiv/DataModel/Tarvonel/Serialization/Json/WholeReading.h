@@ -20,8 +20,8 @@
 ///
 /// Both return the reader's own result. When they fail or throw, the target and everything that it shares with others
 /// is as it was; only running out of memory while a result is put into its place can leave a mixture of old and new
-/// members. After a snapshot, and after a merge of a document with "metadata", a channel has metadata profiles of its
-/// own, also where it shared them with other channels before, and these others keep theirs.
+/// members. After a snapshot, and after a merge of a document with an object as "metadata", a channel has metadata
+/// profiles of its own, also where it shared them with other channels before, and these others keep theirs.
 ///
 /// Documents that end the process with `To` do so here: ask InspectDocument first, or read with the functions of
 /// ReadText.h, which do.

@@ -36,7 +36,7 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Mirrors
 ///
 /// Any number of threads may use the const operations at once, or one thread the others. There are no observers: what
 /// has happened is in the return value. Throws nothing but std::bad_alloc, which may leave a mixture of old and new
-/// members in the channel of the document.
+/// members in the channel of the document. A stream that fails, for want of memory too, tells so itself, by `bad()`.
 class QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Mirror
 {
 public:
