@@ -20,8 +20,8 @@ NOW, KEPT = ROOT / "build/mutate/now", ROOT / "build/mutate/kept"
 
 # The programs that test a folder, nearest first; the first pattern that fits counts.
 RELATED = {
-    "Qiv/TimePoints/": ["TimePointsTests", "ConvertersTests"],
-    "Qiv/Common/": ["CommonTests", "ConvertersTests", "InspectionTests"],
+    "Qiv/TimePoints/": ["TimePointsTests", "fuzz_timecode", "fuzz_duration", "ConvertersTests"],
+    "Qiv/Common/": ["CommonTests", "fuzz_stringer", "ConvertersTests", "InspectionTests"],
     "Qiv/BusinessEntityModel/BaseTypes/": ["BaseTypesTest", "EntitiesTest", "ConvertersTests"],
     "Qiv/DataModel/Tarvonel/Serialization/Json/(Channels|Documents)/": ["DocumentsTests"],
     "Qiv/DataModel/Tarvonel/Serialization/Json/": ["InspectionTests", "ConvertersTests", "tarvonel-json"],
@@ -77,6 +77,9 @@ def build(*targets):
 def passes(program, timeout):
     if program == "tarvonel-json":
         return run(timeout, "python3", "-B", NOW / "tests/Tool/ToolTest.py", "-f")
+    if program.startswith("fuzz_"):
+        corpus = ROOT / "fuzz/corpus" / program[len("fuzz_"):]
+        return run(timeout, NOW / "build/bin" / program, "-runs=20000", corpus)
     return run(timeout, NOW / "build/bin" / program, "--gtest_fail_fast")
 
 
