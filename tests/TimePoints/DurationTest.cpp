@@ -11,8 +11,6 @@
 
 #include <iomanip>
 #include <locale>
-#include <random>
-#include <regex>
 #include <sstream>
 
 namespace Qiv::TimePoints
@@ -28,34 +26,9 @@ static_assert(TimePoint().Nanoseconds() == -9223372036854775807 && Duration().Na
 constexpr std::int64_t minimum = INT64_MIN;
 constexpr std::int64_t maximum = INT64_MAX;
 
-TEST(QivDurationParser, AgreesWithRegularExpressionAndStream)
+TEST(QivDurationParser, TakesAMillionCharacters)
 {
-    const std::regex expression(R"((\+|-)?[[:digit:]]+)");
-    std::vector<std::string> texts;
-    std::mt19937 random(40);
-    for (int i = 0; i < 20000; ++i)
-    {
-        std::string text = std::string(random() % 3, "+-"[random() % 2]).substr(0, random() % 8 == 0 ? 2 : 1);
-        for (std::size_t digits = random() % 24; digits > 0; --digits)
-            text += static_cast<char>('0' + random() % 10);
-        if (!text.empty() && random() % 3 == 0)
-            text[random() % text.size()] = static_cast<char>(random() % 256);
-        texts.push_back(text);
-    }
     const QivDurationParser parser;
-    for (const std::string& text : texts)
-    {
-        const bool isValid = std::regex_match(text, expression);
-        std::istringstream stream(text);
-        stream.imbue(std::locale::classic());
-        std::uint64_t value = 0;
-        stream >> value;
-        Duration read(7);
-        ASSERT_EQ(QivDurationParser::TryRead(text, read), isValid) << text;
-        ASSERT_EQ(read, Duration(isValid ? static_cast<std::int64_t>(value) : 7)) << text;
-        ASSERT_EQ(parser.IsStringFormatValid(text), isValid) << text;
-        ASSERT_EQ(parser.TryParse(text), std::pair(isValid, isValid ? read : Duration::Empty())) << text;
-    }
     EXPECT_EQ(Duration::Parse("-" + std::string(1000000, '0') + "5", parser).ToString(QivDurationFormatter()), "-5");
     EXPECT_EQ(parser.Parse(std::string(1000000, '9')), Duration(-1));
 }
