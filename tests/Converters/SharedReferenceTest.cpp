@@ -26,12 +26,10 @@ struct Reader : JsonToSharedReference<MediaAsset>
 
     Result To(const JsonObject& json, Reference& reference) const override
     {
-        if (json.isNull())
-        {
-            reference = Identifier(Base::id);
-            return Result();
-        }
-        return JsonToSharedReference::To(json, reference);
+        if (!json.isNull())
+            return JsonToSharedReference::To(json, reference);
+        reference = Identifier(Base::id);
+        return Result();
     }
 };
 
@@ -41,10 +39,8 @@ struct Writer : SharedReferenceToJson<MediaAsset, false>
 
     Result To(const SharedReference<MediaAsset>& reference, Stringer& stringer) const override
     {
-        stringer.Array();
-        Result result = SharedReferenceToJson::To(reference, stringer);
-        stringer.CloseArray();
-        return result;
+        const auto array = stringer.ArrayScope();
+        return SharedReferenceToJson::To(reference, stringer);
     }
 };
 

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <random>
-#include <regex>
+#include <string>
 #include <vector>
 
 namespace Qiv::DataModel::Tarvonel::MediaIOs
@@ -92,27 +92,19 @@ TEST(SpeedParser, ReadsWhatTheFormatterWritesAndNothingElse)
         EXPECT_EQ(read.Denominator(), speed.Denominator()) << speed.ToString();
     }
     EXPECT_EQ(Speed(INT32_MIN, UINT32_MAX).ToString(), "-2147483648/4294967295");
-    for (const auto* const text : {"2147483648/1", "-2147483649/1", "1/4294967296"})
+    const std::string invalid[] = {"2147483648/1", "-2147483649/1", "1/4294967296", "",     "/",    "-",     "1",
+                                   "1/",           "-1/",           "/1",           "-/1",  "+1/1", "--1/1", "1/-1",
+                                   "1/+1",         " 1/1",          "1 /1",         "1/ 1", "1/1 ", "1//1",  "1/1/1",
+                                   "1.0/1",        "1/1.0",         "1:1",          "x/1",  "1/x",  "0x1/1", "1/0x1",
+                                   "1e1/1",        {"1/1\0", 4},    {"1\0/1", 4}};
+    for (const auto& text : invalid)
     {
         EXPECT_FALSE(parser.IsStringFormatValid(text)) << text;
         EXPECT_THROW(parser.Parse(text), std::invalid_argument) << text;
     }
-
-    // Any text over the characters that matter is valid exactly when the form fits.
-    const std::regex form("-?[0-9]+/[0-9]+");
-    std::mt19937 random(3);
-    for (int i = 0; i < 50000; ++i)
-    {
-        std::string text;
-        for (auto length = random() % 6; length > 0; --length)
-            text += std::string("-/10\0+ .x:", 10)[random() % (i % 2 == 0 ? 4 : 10)];
-        const bool isValid = std::regex_match(text, form);
-        EXPECT_EQ(parser.IsStringFormatValid(text), isValid) << text;
-        if (isValid)
-            EXPECT_NO_THROW(parser.Parse(text)) << text;
-        else
-            EXPECT_THROW(parser.Parse(text), std::invalid_argument) << text;
-    }
+    for (const auto* const text : {"0/0", "-0/1", "00010/00000000000000000000001"})
+        EXPECT_TRUE(parser.IsStringFormatValid(text)) << text;
+    EXPECT_EQ(Speed::Parse("-0010/00000000000000000000003", parser).ToString(), "-10/3");
 }
 
 } // namespace

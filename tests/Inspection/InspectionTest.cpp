@@ -312,30 +312,24 @@ void CheckParsing(const Case& each)
     }
 }
 
-template <typename Entity>
-void CheckReading(const Case& each)
+const auto checkReading = [](const Case& each, const auto& conversion)
 {
-    const auto holds = Followed(each.JsonText("holds"));
-    auto entity = FromText<Entity>(holds);
-    ExpectPlace(each, MergeText(each.Text("text"), entity));
-    ExpectPlace(each, ReadSnapshotText(each.Text("text"), entity));
-    EXPECT_EQ(Written(entity), holds);
-}
+    using Entity = typename std::decay_t<decltype(conversion)>::Entity;
+    if constexpr (std::is_constructible_v<ReadTarget, Entity&>)
+    {
+        const auto holds = Followed(each.JsonText("holds"));
+        auto entity = FromText<Entity>(holds);
+        ExpectPlace(each, MergeText(each.Text("text"), entity));
+        ExpectPlace(each, ReadSnapshotText(each.Text("text"), entity));
+        EXPECT_EQ(Written(entity), holds);
+    }
+};
 
-const bool areRegistered[] = {RegisterCases("inspection/Findings.json", CheckFindings),
-                              RegisterCases("texts/Parsing.json", CheckParsing),
-                              RegisterCases("texts/Reading.json",
-                                            [](const Case& each)
-                                            {
-                                                static const std::map<std::string, void (*)(const Case&)> checks = {
-                                                    {"MediaInput", CheckReading<MediaInput>},
-                                                    {"MediaOutput", CheckReading<MediaOutput>},
-                                                    {"SequenceOutput", CheckReading<SequenceOutput>},
-                                                    {"Speed", CheckReading<Speed>},
-                                                    {"Boundary", CheckReading<std::unique_ptr<Boundary>>},
-                                                    {"Node", CheckReading<Node>}};
-                                                checks.at(each.Text("entity"))(each);
-                                            })};
+const bool areRegistered[] = {
+    RegisterCases("inspection/Findings.json", CheckFindings), RegisterCases("texts/Parsing.json", CheckParsing),
+    RegisterCases(
+        "texts/Reading.json", [](const Case& each)
+        { ForEachConversion(each, "readers", [&](const auto& conversion) { checkReading(each, conversion); }); })};
 
 } // namespace
 
