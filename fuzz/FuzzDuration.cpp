@@ -64,6 +64,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     const auto value = parser.Parse(text);
     Check(value.Nanoseconds() == Expected(text), "the value is that of the stream", text, value.ToString());
     Check(tried == value && read == value, "all operations agree", text);
+    Check(value.ToString() == std::to_string(value.Nanoseconds()), "a duration is written as its number", text);
     Check(parser.Parse(value.ToString()) == value, "a written duration reads back", text);
     return 0;
 }

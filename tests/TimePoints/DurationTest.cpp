@@ -43,16 +43,7 @@ void CheckDuration(const Tests::Case& each)
 }
 const bool areRegistered = Tests::RegisterCases("timepoints/Durations.json", CheckDuration);
 
-TEST(QivDurationFormatter, WritesEveryLengthOfNumber)
-{
-    std::vector<std::int64_t> numbers = {0, minimum, maximum};
-    for (std::int64_t power = 1; power <= maximum / 10; power *= 10)
-        for (const std::int64_t number : {power, power - 1, power + 7, 3 * power, power * 10 - power})
-            numbers.insert(numbers.end(), {number, -number});
-    for (const std::int64_t number : numbers)
-        EXPECT_EQ(QivDurationFormatter().Format(Duration(number)), std::to_string(number));
-    EXPECT_EQ(std::to_string(minimum).size(), QivDurationFormatter::MaximumLength);
-}
+static_assert(QivDurationFormatter::MaximumLength == std::string_view("-9223372036854775808").size());
 
 TEST(Duration, NumbersSamplesExactly)
 {
