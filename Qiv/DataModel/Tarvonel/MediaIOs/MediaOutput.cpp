@@ -3,6 +3,7 @@
 #include <Qiv/DataModel/Tarvonel/MediaIOs/BoundaryAbsolute.h>
 
 #include <tuple>
+#include <typeinfo>
 #include <utility>
 
 namespace Qiv::DataModel::Tarvonel::MediaIOs
@@ -20,8 +21,22 @@ MediaOutput::OwnedBoundary::OwnedBoundary(OwnedBoundary&& other) noexcept(false)
     pointer_.swap(other.pointer_);
 }
 
-MediaOutput::OwnedBoundary& MediaOutput::OwnedBoundary::operator=(OwnedBoundary other) noexcept
+MediaOutput::OwnedBoundary& MediaOutput::OwnedBoundary::operator=(const OwnedBoundary& other)
 {
+    Pointer(other.pointer_->Clone());
+    return *this;
+}
+
+MediaOutput::OwnedBoundary& MediaOutput::OwnedBoundary::operator=(OwnedBoundary&& other) noexcept(false)
+{
+    if (this == &other)
+        return *this;
+    // The former boundary is left behind, emptied, where it is of the kind: a snapshot takes two allocations fewer.
+    const auto& former = *pointer_;
+    if (typeid(former) == typeid(BoundaryAbsolute))
+        static_cast<BoundaryAbsolute&>(*pointer_) = BoundaryAbsolute();
+    else
+        pointer_ = std::make_unique<BoundaryAbsolute>();
     pointer_.swap(other.pointer_);
     return *this;
 }

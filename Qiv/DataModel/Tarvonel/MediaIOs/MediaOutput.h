@@ -97,7 +97,8 @@ private:
         OwnedBoundary();
         OwnedBoundary(const OwnedBoundary& other);
         OwnedBoundary(OwnedBoundary&& other) noexcept(false);
-        OwnedBoundary& operator=(OwnedBoundary other) noexcept;
+        OwnedBoundary& operator=(const OwnedBoundary& other);
+        OwnedBoundary& operator=(OwnedBoundary&& other) noexcept(false);
 
         const std::unique_ptr<Boundary>& Pointer() const noexcept { return pointer_; }
         void Pointer(std::unique_ptr<Boundary>&& pointer);

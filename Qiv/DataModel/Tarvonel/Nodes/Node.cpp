@@ -1,6 +1,7 @@
 #include <Qiv/DataModel/Tarvonel/Nodes/Node.h>
 
 #include <tuple>
+#include <utility>
 
 namespace Qiv::DataModel::Tarvonel::Nodes
 {
@@ -16,6 +17,20 @@ Node::Node(const BusinessEntityModel::BaseTypes::Identifier& nodeId, std::int32_
       chassis_(chassis),
       hardwareRevision_(hardwareRevision),
       tarvonelVersion_(tarvonelVersion)
+{
+}
+
+Node::Node(BusinessEntityModel::BaseTypes::Identifier&& nodeId, std::int32_t serialNumber, std::string&& hostName,
+           std::string&& ipAddress, std::vector<std::string>&& gbeIpAddresses, std::string&& chassis,
+           std::string&& hardwareRevision, std::string&& tarvonelVersion) noexcept
+    : nodeId_(std::move(nodeId)),
+      serialNumber_(serialNumber),
+      hostName_(std::move(hostName)),
+      ipAddress_(std::move(ipAddress)),
+      gbeIpAddresses_(std::move(gbeIpAddresses)),
+      chassis_(std::move(chassis)),
+      hardwareRevision_(std::move(hardwareRevision)),
+      tarvonelVersion_(std::move(tarvonelVersion))
 {
 }
 

@@ -23,6 +23,10 @@ public:
     Node(const BusinessEntityModel::BaseTypes::Identifier& nodeId, std::int32_t serialNumber,
          const std::string& hostName, const std::string& ipAddress, const std::vector<std::string>& gbeIpAddresses,
          const std::string& chassis, const std::string& hardwareRevision, const std::string& tarvonelVersion);
+    /// The same for texts that are no longer needed elsewhere, which are moved.
+    Node(BusinessEntityModel::BaseTypes::Identifier&& nodeId, std::int32_t serialNumber, std::string&& hostName,
+         std::string&& ipAddress, std::vector<std::string>&& gbeIpAddresses, std::string&& chassis,
+         std::string&& hardwareRevision, std::string&& tarvonelVersion) noexcept;
 
     /// Equal in every field, the order of the gigabit addresses included.
     bool operator==(const Node& other) const noexcept;

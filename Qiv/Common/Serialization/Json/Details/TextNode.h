@@ -45,12 +45,16 @@ inline bool IsContainer(const TextNode& node) noexcept
     return node.type >= NodeType::Object;
 }
 
+/// The decoded text of a Text, which all keys are.
+inline std::string_view DecodedOf(const TextNodes& nodes, const TextNode& node) noexcept
+{
+    return {node.isUnescaped ? nodes.unescaped + node.link : nodes.text + node.offset + 1, node.size};
+}
+
 /// The decoded text of a Text, or the spelling of a number.
 inline std::string_view TextOf(const TextNodes& nodes, const TextNode& node) noexcept
 {
-    if (node.isUnescaped)
-        return {nodes.unescaped + node.link, node.size};
-    return {nodes.text + node.offset + (node.type == NodeType::Text ? 1 : 0), node.size};
+    return node.type == NodeType::Text ? DecodedOf(nodes, node) : std::string_view(nodes.text + node.offset, node.size);
 }
 
 } // namespace Qiv::Common::Serialization::Json::Details

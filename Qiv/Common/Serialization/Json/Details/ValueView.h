@@ -130,7 +130,7 @@ public:
         }
         const auto* name = &Node() + 1;
         for (auto left = Node().size; left != 0; --left, name = Behind(name + 1))
-            if (TextOf(*document_, *name) == key)
+            if (DecodedOf(*document_, *name) == key)
                 return {*document_, name[1]};
         return {};
     }
@@ -220,7 +220,7 @@ private:
             return 0;
         const auto* name = &Node() + 1;
         for (auto left = Node().size; left != 0; --left, name = Behind(name + 1))
-            visit(TextOf(*document_, *name), ValueView(*document_, name[1]));
+            visit(DecodedOf(*document_, *name), ValueView(*document_, name[1]));
         return Node().size;
     }
 

@@ -36,7 +36,7 @@ struct WholeReader
         return channel.GetMode() == MediaIO::Mode::Input ? ReadChannel(static_cast<MediaInput&>(channel))
                                                          : ReadChannel(static_cast<MediaOutput&>(channel));
     }
-    Result operator()(Node& node) const { return Read(node, ReadNode); }
+    Result operator()(Node& node) const { return ReadNode(json, node); } // assigned whole, as the last step
     Result operator()(SequenceOutput& sequenceOutput) const { return Read(sequenceOutput, ReadSequenceOutput); }
     Result operator()(Speed& speed) const { return Read(speed, ReadSpeed); }
     Result operator()(std::unique_ptr<Boundary>& boundary) const { return Read(boundary, ReadBoundary); }
@@ -65,8 +65,8 @@ private:
     template <typename Entity, typename Target>
     Result Read(Entity& entity, Result (*read)(ValueView, Target&)) const
     {
-        // Nodes and boundaries are replaced by every reading, so that there is nothing to copy.
-        constexpr bool isReplaced = std::is_same_v<Entity, Node> || std::is_same_v<Entity, std::unique_ptr<Boundary>>;
+        // Boundaries are replaced by every reading, so that there is nothing to copy.
+        constexpr bool isReplaced = std::is_same_v<Entity, std::unique_ptr<Boundary>>;
         auto copy = mode == ReadMode::Merge && !isReplaced ? IndependentCopy(entity) : NewEntity(entity);
         auto result = read(json, copy);
         if (result)
