@@ -25,7 +25,8 @@ inline constexpr std::size_t mostFindings = 100'000;
 /// wrong "_type": a document is called fatal also when a failure would keep the reader from the fatal member. A channel
 /// with a wrong "_type" or none is still searched for what ends the process.
 ///
-/// In what the writers write nothing is found, unless the entity holds what does not come back:
+/// In what the writers write, with time points in their default form, nothing is found unless the entity holds what
+/// does not come back:
 ///
 /// - time codes without date, and those with a frame number of three digits
 /// - enumerators outside of their enumeration
