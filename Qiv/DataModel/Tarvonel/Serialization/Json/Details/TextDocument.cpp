@@ -180,7 +180,7 @@ private:
         return place;
     }
 
-    // Inline, and what is rare is not: otherwise a full recorder takes 12 % more instructions to read from text.
+    // Inline, and what is rare is not: otherwise a full recorder takes 1.7 % more instructions.
     [[gnu::always_inline]] bool Add(const char* place, std::size_t size, std::uint32_t link, NodeType type,
                                     bool isUnescaped)
     {
