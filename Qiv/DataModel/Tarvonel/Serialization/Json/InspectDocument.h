@@ -23,7 +23,8 @@ inline constexpr std::size_t mostFindings = 100'000;
 /// first `Failure` (see FirstFailure) and succeeds when there is none, provided that nothing ends the process. What
 /// the reader would not reach after that failure is inspected all the same, apart from the inside of an object with a
 /// wrong "_type": a document is called fatal also when a failure would keep the reader from the fatal member. A channel
-/// with a wrong "_type" or none is still searched for what ends the process.
+/// with a wrong "_type" or none is still searched for what ends the process. Members that no rule names, and metadata,
+/// come in the order of the source: in a text as they stand, in a `Json::Value` by name.
 ///
 /// In what the writers write, with time points in their default form, nothing is found unless the entity holds what
 /// does not come back:
