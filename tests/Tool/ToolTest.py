@@ -182,8 +182,8 @@ class Tool(unittest.TestCase):
         with tempfile.NamedTemporaryFile(suffix=".ndjson") as file:
             file.write(text.encode())
             file.flush()
-            for source, shown, left in (("-", r"<stdin>: \d+ KiB, \d+ KiB/s, ", ""),
-                                        (file.name, r"\S+\.ndjson: \d+ KiB of 1 MiB, ", r", \d+ s left")):
+            for source, shown, left in (("-", r"<stdin>: \d+ [KM]iB, \d+ [KM]iB/s, ", ""),
+                                        (file.name, r"\S+\.ndjson: \d+ [KM]iB of 1 MiB, ", r", \d+ s left")):
                 terminal, error = pty.openpty()
                 with subprocess.Popen(["cat", file.name], stdout=subprocess.PIPE) as cat, subprocess.Popen(
                         [TOOL, "convert", "--ndjson", source], stdin=cat.stdout, stdout=subprocess.PIPE,
