@@ -225,7 +225,8 @@ private:
     // A text without escapes is told in one piece, which lies in the document's own text.
     bool IsDirect(ParserText text) const noexcept
     {
-        return reinterpret_cast<std::uintptr_t>(text.data()) - reinterpret_cast<std::uintptr_t>(text_.data()) < direct_;
+        const std::less<const char*> isBefore; // also for pointers into different memory
+        return !isBefore(text.data(), text_.data()) && isBefore(text.data(), text_.data() + direct_);
     }
 
     bool AddDirect(ParserText text)
