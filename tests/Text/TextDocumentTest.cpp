@@ -51,18 +51,18 @@ void operator delete(void* block, std::size_t) noexcept
     operator delete(block);
 }
 
-// Those of the address sanitizer do not call the ones above.
+// Those of the address sanitizer do not call the ones above. Not inlined: valgrind puts its own in their place.
 void* operator new[](std::size_t size)
 {
     return operator new(size);
 }
 
-void operator delete[](void* block) noexcept
+[[gnu::noinline]] void operator delete[](void* block) noexcept
 {
     operator delete(block);
 }
 
-void operator delete[](void* block, std::size_t) noexcept
+[[gnu::noinline]] void operator delete[](void* block, std::size_t) noexcept
 {
     operator delete(block);
 }
