@@ -52,7 +52,7 @@ void operator delete(void* block, std::size_t) noexcept
 }
 
 // Those of the address sanitizer do not call the ones above. Not inlined: valgrind puts its own in their place.
-void* operator new[](std::size_t size)
+[[gnu::noinline]] void* operator new[](std::size_t size)
 {
     return operator new(size);
 }
