@@ -64,7 +64,7 @@ TEST(Stringer, EscapesTheSameInEveryPlace)
     {
         const auto quoted = Quoted(piece);
         for (std::size_t place = 0; place <= 40; ++place)
-            for (const std::size_t behind : {0, 1, 6, 7, 8, 15, 16, 300})
+            for (const unsigned behind : {0U, 1U, 6U, 7U, 8U, 15U, 16U, 300U})
             {
                 const std::string before(place, 'x'), after(behind, 'x'), text = before + piece + after;
                 const std::vector<char> exact(text.begin(), text.end()); // a sanitizer sees what is read behind it
