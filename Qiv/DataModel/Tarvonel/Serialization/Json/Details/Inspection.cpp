@@ -1,6 +1,7 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Inspection.h>
 
 #include <Qiv/Common/Serialization/Json/Details/KnownMembers.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Pointer.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Quote.h>
 
 #include <algorithm>
@@ -86,21 +87,7 @@ bool HasRule(const ObjectRules& rules, std::string_view key)
 
 std::string Inspection::Pointer() const
 {
-    std::string pointer;
-    for (const auto key : path_)
-    {
-        pointer += '/';
-        for (const char character : key)
-        {
-            if (character == '~')
-                pointer += "~0";
-            else if (character == '/')
-                pointer += "~1";
-            else
-                pointer += character;
-        }
-    }
-    return pointer;
+    return PointerTo(path_);
 }
 
 void Inspection::Report(FindingKind kind, ValueView value, std::string sentence, std::string readerMessage)

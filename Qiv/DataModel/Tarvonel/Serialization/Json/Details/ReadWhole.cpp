@@ -25,7 +25,7 @@ using Tarvonel::Nodes::Node;
 namespace
 {
 
-/// How each target is read, with a channel as one of its own kind, so that all of it is copied.
+/// How each target is read; a channel as one of its own kind, so that all of it is replaced or tried.
 struct WholeReader
 {
     ValueView json;

@@ -1,32 +1,18 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Updates/Details/Update.h>
 
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Pointer.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Utf8.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <string>
-#include <utility>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::Json::Updates::Details
 {
 
 void Update::Omit(std::initializer_list<std::string_view> path, std::string_view sentence)
 {
-    std::string pointer;
-    for (const auto key : path)
-    {
-        pointer += '/';
-        for (const char character : key)
-        {
-            if (character == '~')
-                pointer += "~0";
-            else if (character == '/')
-                pointer += "~1";
-            else
-                pointer += character;
-        }
-    }
-    omissions.push_back({std::move(pointer), std::string(sentence)});
+    omissions.push_back({Json::Details::PointerTo(path), std::string(sentence)});
 }
 
 const char* ObstacleOfText(std::string_view text)
