@@ -95,6 +95,9 @@ TEST(Mirror, AppliesDocumentsOrTellsWhyNot)
     EXPECT_EQ(mirror.ApplySnapshot(R"({"_type":"MediaInput","id":"c1","x":1})", options).Effect(), Effect::Changed);
     ASSERT_EQ(findings.size(), 1U);
     EXPECT_EQ(findings[0].pointer, "/x");
+    EXPECT_EQ(mirror.Apply(Parse(R"({"_type":"MediaInput","y":1})"), options).Effect(), Effect::Refused);
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].pointer, "/y");
     ASSERT_NE(mirror.FindChannel("c1"), nullptr);
     EXPECT_EQ(mirror.FindChannel("c1")->Name(), "");
     EXPECT_EQ(mirror.Channels().size(), 2U);
@@ -104,6 +107,23 @@ TEST(Mirror, AppliesDocumentsOrTellsWhyNot)
     EXPECT_NE(mirror.FindNode("c1"), nullptr);
     EXPECT_TRUE(mirror.RemoveNode("c1"));
     EXPECT_EQ(All(mirror), player + '\n');
+}
+
+TEST(Mirror, TellsNoChangeWhereWritersShowNone)
+{
+    for (const std::string document : {
+             R"({"_type":"Node","id":"n","hostName":"a\u0000b"})",
+             R"({"_type":"MediaInput","id":"c","metadata":{"a.b":"\u0000b"}})",
+             R"({"_type":"MediaOutput","id":"c","sequence":{"_type":"SequenceOutput","assetBlockOnAir":)"
+             R"({"_type":"AssetBlockOnAir","id":"\u0000b","mediaAsset":{"_type":"MediaAssetRef","id":"r"}}}})",
+         })
+    {
+        Mirror mirror;
+        EXPECT_EQ(mirror.Apply(document).Effect(), Effect::Created);
+        auto without = document;
+        without.erase(document.find("\\u"), 7);
+        EXPECT_EQ(mirror.Apply(without).Effect(), Effect::Unchanged) << without;
+    }
 }
 
 TEST(Mirror, HoldsWhatEachChannelHasBeenToldAndTellsWhatHasChanged)

@@ -26,10 +26,11 @@ using Mirrors::Mirror;
 namespace
 {
 
-/// `losses` are the findings for which the document would have been refused.
+/// `losses` are the findings for which the document may have been refused.
 Refusal RefusalOf(const SourceText& source, const ApplyResult& result, const std::vector<Finding>& losses)
 {
-    if (!losses.empty() && FirstFailure(losses) == nullptr && FirstFatal(losses) == nullptr)
+    const bool isForLoss = !losses.empty() && result.Sentence() == losses.front().sentence;
+    if (isForLoss && FirstFailure(losses) == nullptr && FirstFatal(losses) == nullptr)
         return RefusalOfLoss(source, losses);
     if (result.Kind())
         return {result.Position(), result.Pointer(), result.Sentence()};

@@ -30,20 +30,20 @@ std::string Written(const Boundary& boundary)
 
 bool HaveSameMembers(const MediaAsset& left, const MediaAsset& right)
 {
-    return AreSame(left.Id().Value(), right.Id().Value()) && AreSame(left.Name(), right.Name()) &&
+    return AreWrittenAlike(left.Id().Value(), right.Id().Value()) && AreSame(left.Name(), right.Name()) &&
            left.InPoint() == right.InPoint() && left.OutPoint() == right.OutPoint();
 }
 
 bool HaveSameMembers(const Sequence& left, const Sequence& right)
 {
-    return AreSame(left.Id().Value(), right.Id().Value()) && AreSame(left.Name(), right.Name());
+    return AreWrittenAlike(left.Id().Value(), right.Id().Value()) && AreSame(left.Name(), right.Name());
 }
 
 // As references that are always written.
 template <typename Entity>
-bool AreWrittenAlike(const SharedReference<Entity>& left, const SharedReference<Entity>& right)
+bool HaveSameMembers(const SharedReference<Entity>& left, const SharedReference<Entity>& right)
 {
-    if (!AreSame(left.Id().Value(), right.Id().Value()))
+    if (!AreWrittenAlike(left.Id().Value(), right.Id().Value()))
         return false;
     const auto& leftObject = left.Pointer();
     const auto& rightObject = right.Pointer();
@@ -56,22 +56,26 @@ template <typename Entity>
 bool AreSameUnlessEmpty(const SharedReference<Entity>& left, const SharedReference<Entity>& right)
 {
     return (left.Id().IsEmpty() && right.Id().IsEmpty()) ||
-           (left.Id().IsEmpty() == right.Id().IsEmpty() && AreWrittenAlike(left, right));
+           (left.Id().IsEmpty() == right.Id().IsEmpty() && HaveSameMembers(left, right));
 }
 
 bool HaveSameMembers(const SequenceOutput::AssetBlockOutput& left, const SequenceOutput::AssetBlockOutput& right)
 {
-    return AreSame(left.Id().Value(), right.Id().Value()) &&
-           AreWrittenAlike(left.MediaAssetRef(), right.MediaAssetRef());
+    return AreWrittenAlike(left.Id().Value(), right.Id().Value()) &&
+           HaveSameMembers(left.MediaAssetRef(), right.MediaAssetRef());
 }
 
 } // namespace
 
-bool AreSame(const std::string& left, const std::string& right)
+bool AreWrittenAlike(const std::string& left, const std::string& right)
 {
     // The characters of a text may differ where writers cut or replace them.
-    return left == right || (left.empty() == right.empty() &&
-                             Stringer::ToEscapedString(left.c_str()) == Stringer::ToEscapedString(right.c_str()));
+    return left == right || Stringer::ToEscapedString(left.c_str()) == Stringer::ToEscapedString(right.c_str());
+}
+
+bool AreSame(const std::string& left, const std::string& right)
+{
+    return left.empty() == right.empty() && AreWrittenAlike(left, right);
 }
 
 bool AreSame(const TimeCode& left, const TimeCode& right)

@@ -20,7 +20,9 @@
 namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
 {
 
-/// As texts that are always written, or only when they are not empty.
+/// As texts that are always written: identifiers inside of a channel, and values of metadata.
+bool AreWrittenAlike(const std::string& left, const std::string& right);
+/// As names, which are left out when they are empty.
 bool AreSame(const std::string& left, const std::string& right);
 
 inline bool AreSame(const TimePoints::TimePoint& left, const TimePoints::TimePoint& right)

@@ -5,6 +5,8 @@
 #include <Qiv/DataModel/Tarvonel/MediaIOs/MediaOutput.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/InspectValue.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/ReadDocument.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Details/Refusal.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/HaveEqualContent.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ToText.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/Write.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Mirrors/Details/ChannelProbe.h>
@@ -160,7 +162,10 @@ public:
             MediaInput nothing; // reading a channel of no kind fails without taking anything from it
             return {source.ReadInto(nothing), std::nullopt, {}};
         }
-        const auto refused = [&](std::string message) {
+        const auto refused = [&](std::string message)
+        {
+            static_cast<void>(
+                Json::Details::RefusalOf(source.json, *kind, source.options, source.text)); // for its findings
             return ApplyResult({std::move(message), PositionOf(source.text, source.json.Offset())}, kind, {});
         };
         if (*kind != DocumentKind::Node && *kind != DocumentKind::MediaInput && *kind != DocumentKind::MediaOutput)
@@ -209,7 +214,7 @@ private:
         }
         const auto before = *node;
         auto result = source.ReadInto(*node);
-        effect = EffectOf(before != *node);
+        effect = EffectOf(before != *node && !Documents::HaveEqualContent(before, *node));
         return result;
     }
 

@@ -21,7 +21,7 @@ namespace
 
 bool AreSame(const std::optional<std::string>& left, const std::optional<std::string>& right)
 {
-    return left && right ? Json::Details::AreSame(*left, *right) : left == right;
+    return left && right ? Json::Details::AreWrittenAlike(*left, *right) : left == right;
 }
 
 } // namespace

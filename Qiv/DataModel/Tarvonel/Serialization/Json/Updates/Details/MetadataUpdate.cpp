@@ -25,7 +25,7 @@ using Common::Serialization::Json::JsonObject;
 using Common::Serialization::Json::Stringer;
 using Common::Serialization::Json::Details::keyOf;
 using Common::Serialization::Json::Details::ValueView;
-using Json::Details::AreSame;
+using Json::Details::AreWrittenAlike;
 using MediaIOs::Json::MetadataProfileDictionaryToJsonConverter;
 using MediaIOs::Json::Details::ChannelForm;
 using MediaIOs::Json::Details::OperatorProfileForm;
@@ -138,7 +138,7 @@ private:
             for (; isSameName && old != oldEntries.end() && compare(*old, entry); ++old)
                 Omit(FlatKey(nameBefore, *old->first), isGone);
             const bool isKnown = isSameName && old != oldEntries.end() && *old->first == *entry.first;
-            if (!isKnown || !AreSame(*old->second, *entry.second))
+            if (!isKnown || !AreWrittenAlike(*old->second, *entry.second))
                 WriteEntry(nameAfter, *entry.first, *entry.second, obstacle);
             if (isKnown)
                 ++old;
