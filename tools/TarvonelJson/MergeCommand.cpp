@@ -5,13 +5,15 @@
 #include <TarvonelJson/Printable.h>
 #include <TarvonelJson/Refusal.h>
 
-#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaInput.h>
-#include <Qiv/DataModel/Tarvonel/MediaIOs/MediaOutput.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Channels/Clone.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ToText.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/ReadText.h>
 
 #include <json/value.h>
+
+#include <string_view>
 
 namespace TarvonelJson
 {
@@ -23,22 +25,34 @@ using Documents::Layout;
 namespace
 {
 
-/// A new channel for the first document; null when it is none of a channel.
-std::unique_ptr<MediaIO> MakeChannelFor(const Json::Value& document)
+/// Reads the first document into a new channel, which stays null when it is none of a channel.
+TextResult ReadFirst(std::string_view text, const ReadOptions& options, std::unique_ptr<MediaIO>& channel)
 {
-    const auto kind = KindOf(document);
-    if (kind == DocumentKind::MediaInput)
-        return std::make_unique<MediaInput>();
-    if (kind == DocumentKind::MediaOutput)
-        return std::make_unique<MediaOutput>();
-    return nullptr;
+    const auto result = Documents::ReadAnyText(text, options);
+    if (const auto* const read = result ? Documents::ChannelOf(result.Entity()) : nullptr)
+        channel = Channels::Clone(*read);
+    return result;
 }
 
-Refusal OtherIdentifier(const SourceText& source, const Json::Value& document, const std::string& expected)
+bool IsAnother(std::string_view identifier, const std::string& expected)
 {
-    return {PositionOf(source.text, document["id"].getOffsetStart()), "/id",
-            "\"" + Shortened(IdOf(document)) + "\" is another identifier than \"" + Shortened(expected) +
-                "\"; --any-id lets it become that of the result"};
+    return !expected.empty() && !identifier.empty() && identifier != expected;
+}
+
+/// Of a document that has not been merged, as `result` says unless it is of a kind or of a channel that is not meant.
+Refusal WhyNotMerged(const SourceText& source, const TextResult& result, bool isFirst, const std::string& expected)
+{
+    Json::Value document;
+    static_cast<void>(ParseText(source.text, document, SourceText::Limits())); // null when that fails
+    const auto kind = KindOf(document);
+    if (isFirst && kind && kind != DocumentKind::MediaInput && kind != DocumentKind::MediaOutput)
+        return {PositionOf(source.text, document.getOffsetStart()), "",
+                "only channels can be merged: MediaInput or MediaOutput expected"};
+    if (IsAnother(IdOf(document), expected))
+        return {PositionOf(source.text, document["id"].getOffsetStart()), "/id",
+                "\"" + Shortened(IdOf(document)) + "\" is another identifier than \"" + Shortened(expected) +
+                    "\"; --any-id lets it become that of the result"};
+    return WhyNotRead(source, result);
 }
 
 } // namespace
@@ -111,30 +125,20 @@ ExitStatus MergeCommand::Run(Output& output) const
 
 ExitStatus MergeCommand::Merge(const SourceText& source, Channel& channel, Losses& losses) const
 {
-    Json::Value document;
-    if (const auto result = ParseText(source.text, document, SourceText::Limits()); !result)
-        return Report(source, NotJson(source, result));
-    const auto kind = KindOf(document);
-    if (!kind)
-        return Report(source, UnknownType(source, document));
-    if (!channel)
-        channel = MakeChannelFor(document);
-    if (!channel)
-        return Report(source, {PositionOf(source.text, document.getOffsetStart()), "",
-                               "only channels can be merged: MediaInput or MediaOutput expected"});
-    const auto& expected = channel->Id().Value();
-    const auto identifier = IdOf(document);
-    if (!takesAnyIdentifier_ && !expected.empty() && !identifier.empty() && identifier != expected)
-        return Report(source, OtherIdentifier(source, document, expected));
-    if (const auto result = MergeText(source.text, *channel, SourceText::Limits()); !result)
-        return Report(source, {result.Position(), result.Pointer(), result.Sentence()});
-    if (isStrict_ || !isQuiet_)
-    {
-        const auto findings = InspectDocument(document);
-        if (isStrict_ && !findings.empty())
-            return Report(source, RefusalOfLoss(source, findings));
-        losses.Count(findings.size(), 0);
-    }
+    std::vector<Finding> findings;
+    ReadOptions options;
+    options.limits = SourceText::Limits();
+    options.findings = isStrict_ || !isQuiet_ ? &findings : nullptr;
+    options.maximumFindings = mostFindings;
+    const bool isFirst = channel == nullptr;
+    const std::string expected = isFirst || takesAnyIdentifier_ ? "" : channel->Id().Value();
+
+    const auto result = isFirst ? ReadFirst(source.text, options, channel) : MergeText(source.text, *channel, options);
+    if (!result || channel == nullptr || IsAnother(channel->Id().Value(), expected))
+        return Report(source, WhyNotMerged(source, result, isFirst, expected));
+    if (isStrict_ && !findings.empty())
+        return Report(source, RefusalOfLoss(source, findings));
+    losses.Count(findings.size(), 0);
     return ExitStatus::Success;
 }
 
