@@ -32,8 +32,8 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Updates
 /// - values that are no enumerators, time codes without a text that is read back as it is, relative boundaries without
 ///   a relative origin
 /// - references whose identifier is not that of their object
-/// - metadata keys with a dot, names that begin with the reserved "qiv.peloperator", a new profile without keys or
-///   under another name than its own, a profile of another kind than before
+/// - metadata keys with a dot, names that begin with the reserved "qiv.peloperator", profiles under another name than
+///   their own, a new profile without keys, a profile of another kind than before
 ///
 /// Refused, with nothing written: channels of different kinds, and channels with different identifiers. Throws what the
 /// Stringer throws where no value may stand, and std::bad_alloc, save inside of a speed or a boundary, whose writers

@@ -153,7 +153,7 @@ private:
     {
         if (OperatorProfileForm::Reserves(name))
             return "names that begin with \"qiv.peloperator\" are the operator's, and no reader takes others";
-        if (nameBefore != nameAfter)
+        if (nameBefore != name || nameAfter != name)
             return "the profile has another name than the one that it is kept under";
         if (before != nullptr && AsGeneric(before) == nullptr)
             return "the profile takes the place of one of another kind";
