@@ -1,12 +1,13 @@
 // Made from documents.schema.json by make_types.py.
 
 /**
- * Documents of the media-IO model, as the Qiv writers write whatever their readers have read: channels, nodes, and the
- * parts of a channel that stand on their own. "_type" tells the kind and is written first, but readers do not rely on
- * any order of members. null is never written. A text ends before its first NUL, as writers pass texts null-terminated.
- * Programs can build entities that no document gives and that are written otherwise, such as those with a server
- * identifier that is no positive multiple of 10, a metadata profile whose namespace begins with qiv.peloperator, a
- * number that is no enumerator, a relative boundary that counts from "Absolute", a year after 2261 or a frame below
+ * Documents of the media-IO model, as the Qiv writers write whatever their readers have read, and the updates between
+ * two such states: channels, nodes, and the parts of a channel that stand on their own. "_type" tells the kind and is
+ * written first, but readers do not rely on any order of members. null is never written. A text ends before its first
+ * NUL, as writers pass texts null-terminated; a metadata name that has its last dot behind one is read, but not written
+ * as told here. Programs can build entities that no document gives and that are written otherwise, such as those with a
+ * server identifier that is no positive multiple of 10, a metadata profile whose namespace begins with qiv.peloperator,
+ * a number that is no enumerator, a relative boundary that counts from "Absolute", a year after 2261 or a frame below
  * zero. Documents from elsewhere may leave out every member but "_type", the "id" of a node, and what the descriptions
  * of references, time points, durations and boundaries ask for; a channel then keeps the value that it has. Where no
  * description says otherwise, readers skip members that they do not know and values that do not fit, so that a channel
@@ -46,13 +47,14 @@ export interface TimePoint {
  * A time code: date, hour, minute, second, frame, and after "@" the whole frames per second. The separator before the
  * frame tells how frames are counted: ":" without and ";" with dropped frame numbers, the latter only at 30 and 60. A
  * time code without date has the date -1-0-1-0-1, a placeholder that readers do not accept: they skip the member. So
- * they do with frame numbers of three digits, which there are above 100 frames per second. Readers also take the form
- * without date and "T", as 10:00:00:00@25, which is never written. Where a time code may be left out, that means
+ * they do with frame numbers of three digits, which there are above 100 frames per second. Readers take the form
+ * without date and "T", as 10:00:00:00@25, which only updates have. Where a time code may be left out, that means
  * 1900-01-01T00:00:00:00@50.
- * @pattern ^((19[0-9]{2}|2[01][0-9]{2}|22[0-5][0-9]|226[01])-(0[1-9]|1[0-2])-(0[1-9]|[12][0-9]|3[01])|-1-0-1-0-1)T([01][0-9]|2[0-3]):[0-5][0-9]:[0-5][0-9](:[0-9]{2,}@[1-9][0-9]{0,9}|;[0-5][0-9]@(30|60))(?!\n)$
+ * @pattern ^(((19[0-9]{2}|2[01][0-9]{2}|22[0-5][0-9]|226[01])-(0[1-9]|1[0-2])-(0[1-9]|[12][0-9]|3[01])|-1-0-1-0-1)T)?([01][0-9]|2[0-3]):[0-5][0-9]:[0-5][0-9](:[0-9]{2,}@[1-9][0-9]{0,9}|;[0-5][0-9]@(30|60))(?!\n)$
  * @example 2016-03-21T14:05:09:17@25
  * @example 2016-03-21T14:05:09;17@30
  * @example -1-0-1-0-1T10:00:00:00@25
+ * @example 10:00:00:00@25
  */
 export type TimeCode = string;
 
@@ -76,7 +78,7 @@ export interface MediaAsset {
 /**
  * A reference to a media asset. With "mediaAsset" it holds the asset itself, whose "id" is then the one that counts. A
  * reference fails the document unless it has an object as "mediaAsset", or else an "id" that is no object, array or
- * null, with nothing but a text as "_type" beside it.
+ * null, with nothing beside it but a "_type" that is not null.
  */
 export interface MediaAssetRef {
   _type: "MediaAssetRef";
@@ -116,8 +118,9 @@ export interface Metadata {
    */
   "qiv.peloperator.serverId"?: number;
   /**
-   * Index of the operator. Left out when negative.
-   * @minimum 0
+   * Index of the operator. A negative one means that there is none; only updates have it, in which it clears another
+   * one.
+   * @minimum -2147483648
    * @maximum 2147483647
    */
   "qiv.peloperator.index"?: number;

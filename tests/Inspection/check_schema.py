@@ -31,7 +31,10 @@ good = [(kind, json.loads(made(kind))) for kind in kinds for _ in range(100)]
 for name in good_files:
     with open(name, encoding="utf-8") as file:
         texts = file if name.endswith(".ndjson") else [file.read()]
-        good += [(f"{name}:{number}", json.loads(text)) for number, text in enumerate(texts, 1)]
+        documents = [json.loads(text) for text in texts]
+        if "cases" in documents[0]:
+            documents = [case["update"] for case in documents[0]["cases"] if "update" in case]
+        good += [(f"{name}:{number}", document) for number, document in enumerate(documents, 1)]
 wrong = [f"{name}: {faults(document)}" for name, document in good if faults(document)]
 
 with open(case_file, encoding="utf-8") as file:
