@@ -17,12 +17,12 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Updates
 
 /// Writes the smallest document whose merge into `before` gives `after`, two states of one channel.
 ///
-/// The document has "_type", "id" unless it is empty, and the members that differ: nested objects whole, metadata by
-/// key, and of the two capacities those that bring about both. States differ when their documents do, see
-/// HaveEqualContent. What has been cleared is written as the value that clears it where readers take one: an empty
-/// text, "NotSet", a duration of zero, the texts of the empty time code and time point, an empty reference or boundary,
-/// the speed 0/0, an operator index of -1. A time code without date goes out in its clock form, "10:00:00:00@25",
-/// unlike in a snapshot. None of the members can be left out.
+/// The document has "_type", "id" unless it is empty or a text that cannot be written (see below), and the members that
+/// differ: nested objects whole, metadata by key, and of the two capacities those that bring about both. States differ
+/// when their documents do, see HaveEqualContent. What has been cleared is written as the value that clears it where
+/// readers take one: an empty text, "NotSet", a duration of zero, the texts of the empty time code and time point, an
+/// empty reference or boundary, the speed 0/0, a negative operator index. A time code without date goes out in its
+/// clock form, "10:00:00:00@25", unlike in a snapshot. None of the members can be left out.
 ///
 /// Not all that channels can hold can be brought about by merging. What cannot is left out and listed in the result:
 ///

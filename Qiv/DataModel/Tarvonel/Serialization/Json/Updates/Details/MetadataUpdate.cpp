@@ -108,15 +108,21 @@ public:
     bool HasWritten() const { return object_.has_value(); }
 
     /// A channel that has profiles shows metadata, also when none of the profiles has anything to show.
-    void Finish(bool wereEmpty, bool areEmpty)
+    void Finish(const EditorialMetadata& before, const EditorialMetadata& after)
     {
-        const bool willBeEmpty = wereEmpty && !object_.has_value();
-        if (willBeEmpty == areEmpty || hasOmissions_)
+        const bool willBeEmpty = before.Empty() && !object_.has_value();
+        if (willBeEmpty == after.Empty() || hasOmissions_)
             return;
+        const auto profile = after.Find(OperatorProfileForm::profileName);
+        if (const auto* const theOperator = AsOperator(profile.get()); theOperator != nullptr)
+        {
+            Open().Key(keyOf<OperatorProfileForm::index>).Value(theOperator->Index()); // no writer shows it
+            return;
+        }
         update_.hasChanges = true;
         update_.Omit({keyOf<ChannelForm::metadata>},
-                     areEmpty ? "the last profile is gone, and merging never removes one"
-                              : "the only profiles are without keys, for which there is no document");
+                     after.Empty() ? "the last profile is gone, and merging never removes one"
+                                   : "the only profiles are without keys, for which there is no document");
     }
 
 private:
@@ -245,7 +251,7 @@ bool WriteDifferences(const EditorialMetadata& before, const EditorialMetadata& 
     }
     for (; old != before.end(); ++old)
         metadata.WriteProfile(old->first.Value(), old->second.get(), nullptr);
-    metadata.Finish(before.Empty(), after.Empty());
+    metadata.Finish(before, after);
     return metadata.HasWritten();
 }
 
