@@ -130,6 +130,9 @@ constexpr auto kindOf = [](auto&& json) -> decltype(KindOf(json)) { return {}; }
 constexpr auto idOf = [](auto&& json) -> decltype(IdOf(json)) { return {}; };
 constexpr auto inspect = [](auto&& json) -> decltype(InspectDocument(json)) { return {}; };
 constexpr auto inspectKind = [](auto&& json) -> decltype(InspectDocument(json, DocumentKind::Node)) { return {}; };
+constexpr auto inspectMost = [](auto&& json) -> decltype(InspectDocument(json, 1)) { return {}; };
+constexpr auto inspectKindMost = [](auto&& json) -> decltype(InspectDocument(json, DocumentKind::Node, 1))
+{ return {}; };
 constexpr auto readAny = [](auto&& json) -> decltype(ReadAny(json)) { return ReadAny(json); };
 constexpr auto mergeWhole = [](auto&& json) -> decltype(MergeWhole(json, std::declval<MediaInput&>())) { return {}; };
 constexpr auto readSnapshot = [](auto&& json) -> decltype(ReadSnapshot(json, std::declval<MediaInput&>()))
@@ -141,9 +144,10 @@ constexpr int CountOfTaking(Functions...)
     return (0 + ... + (std::is_invocable_v<Functions, T> ? 1 : 0));
 }
 template <typename T>
-constexpr int taking = CountOfTaking<T>(kindOf, idOf, inspect, inspectKind, readAny, mergeWhole, readSnapshot);
+constexpr int taking = CountOfTaking<T>(kindOf, idOf, inspect, inspectKind, inspectMost, inspectKindMost, readAny,
+                                        mergeWhole, readSnapshot);
 
-static_assert(taking<const JsonObject&> == 7);
+static_assert(taking<const JsonObject&> == 9);
 static_assert(taking<const char*> + taking<const char (&)[3]> + taking<std::string&> + taking<std::string_view> == 0);
 
 } // namespace

@@ -55,9 +55,10 @@ InspectDocument(const Common::Serialization::Json::JsonObject& document, Documen
 
 // ParseText parses texts.
 template <typename Text>
-ForText<Text, std::vector<Finding>> InspectDocument(const Text& text) = delete;
+ForText<Text, std::vector<Finding>> InspectDocument(const Text& text, std::size_t maximum = mostFindings) = delete;
 template <typename Text>
-ForText<Text, std::vector<Finding>> InspectDocument(const Text& text, DocumentKind kind) = delete;
+ForText<Text, std::vector<Finding>> InspectDocument(const Text& text, DocumentKind kind,
+                                                    std::size_t maximum = mostFindings) = delete;
 
 /// The finding whose text the reader would fail with; null when there is none.
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT const Finding* FirstFailure(const std::vector<Finding>& findings) noexcept;
