@@ -33,7 +33,8 @@ public:
     static Duration FromMilliseconds(std::int64_t milliseconds) noexcept;
 
     /// The time at which sample number `samples` begins when sample 0 begins at zero, rounded up to the next
-    /// nanosecond, so that `GetSampleNumber` gives the number back at rates up to 1000000000 per second.
+    /// nanosecond, so that `GetSampleNumber` gives the number back at rates up to 1000000000 per second, unless the
+    /// time is out of range.
     ///
     /// @throws std::invalid_argument when a part of `rate` is not within 1 to 2147483647
     static Duration FromSampleNumber(std::int64_t samples, const Rate& rate);

@@ -13,9 +13,9 @@ namespace Qiv::TimePoints
 
 /// Writes time codes in the dated form that `QivTimeCodeParser` reads: "2016-03-21T14:05:09;17@30".
 ///
-/// With a date from 1900 to 2261 and a rate from 1 to 100 the parser reads the text back to the same time code. It
-/// refuses frame numbers of three digits, which higher rates have, and fields below zero, which a negative count has.
-/// The rate's denominator is not written.
+/// With a date from 1900 to 2261 and a rate from 1 to 100, of the denominator 1, the parser reads the text back to the
+/// same time code. It refuses frame numbers of three digits and more, which higher rates have, and fields below zero,
+/// which a negative count has. The denominator is not written.
 ///
 /// A time code without date is written with a date of minus ones, "-1-0-1-0-1T10:00:00:00@25", on purpose: other
 /// systems know it by that text, though the parser refuses it. The formatter holds no state and may be used from
@@ -23,8 +23,8 @@ namespace Qiv::TimePoints
 class QIV_TIMEPOINTS_EXPORT QivTimeCodeFormatter : public TimeCodeFormatter
 {
 public:
-    /// No text is longer than this: a year, six fields with a "0" before them, seven separators and a rate. Those that
-    /// the parser reads back have 24 to 26 characters.
+    /// No text is longer than this: a year, six fields with a "0" before them, seven separators and a rate. Those of
+    /// time codes with date at rates up to 100 have 24 to 26 characters.
     static constexpr std::size_t MaximumLength = 11 + 6 * (1 + 11) + 7 + 20;
 
     QivTimeCodeFormatter() = default;

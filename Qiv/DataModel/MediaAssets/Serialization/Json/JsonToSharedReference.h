@@ -21,7 +21,8 @@ namespace Qiv::DataModel::MediaAssets::Serialization::Json
 /// second form the identifier is the embedded object's own, whatever "id" says. "_type" is optional and compared when
 /// it is a string. An "id" that is a number or a boolean is taken as jsoncpp's text of it.
 ///
-/// Failures leave the target untouched: "Bad _type", "Bad format" (neither form), or the embedded object's own failure.
+/// Failures leave the target untouched: "Bad _type", "Bad format" (neither form, or an array or object as "id" of the
+/// first), or the embedded object's own failure.
 /// Throws what the embedded object's reader throws.
 template <typename T>
 class QIV_DATAMODEL_MEDIAASSETS_SERIALIZATION_JSON_EXPORT JsonToSharedReference

@@ -29,7 +29,8 @@ inline constexpr std::size_t mostFindings = 100'000;
 /// In what the writers write, with time points in their default form, nothing is found unless the entity holds what
 /// does not come back:
 ///
-/// - time codes without date, and those with a frame number of three digits
+/// - time codes without a text that is read back: without date, with a frame number of three digits and more, beyond
+///   the years 1900 to 2261, or at a rate that is not within 1 to 2147483647
 /// - enumerators outside of their enumeration
 /// - references with another identifier than that of their object
 /// - a relative boundary with the absolute origin, which is written as an empty object, so that the reader fails

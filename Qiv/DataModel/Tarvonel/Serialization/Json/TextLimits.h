@@ -11,7 +11,8 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json
 ///     TextLimits limits;
 ///     limits.bytes = 1 << 20; // a document a connection, one megabyte at most
 ///
-/// Memory while reading is at most ten times the text, besides some kilobytes on the stack and what is made of it.
+/// Memory while reading is at most ten times the text, besides some kilobytes, what is made of it, and what `findings`
+/// and `refuse` of `ReadOptions` ask for: up to `mostFindings`, which have a few hundred bytes each.
 struct TextLimits
 {
     /// Bytes of the text, at most 2147483647 whatever is set.

@@ -14,7 +14,7 @@ class [[nodiscard]] AnyResult : public TextResult
 {
 public:
     AnyResult(AnyEntity entity) : entity_(std::move(entity)) {}
-    /// `failure` is none of a success.
+    /// `failure` must not be a success.
     AnyResult(TextResult failure) : TextResult(std::move(failure)) {}
 
     /// The entity; throws std::bad_optional_access after a failure.

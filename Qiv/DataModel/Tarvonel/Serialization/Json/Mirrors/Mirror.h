@@ -80,7 +80,8 @@ public:
     std::vector<const Tarvonel::Nodes::Node*> Nodes() const;
 
     /// Writes the nodes and then the channels, each in a line of its own (NDJSON), in the order of their identifiers.
-    /// What the writers lose is lost: the times of time codes without date.
+    /// What the writers lose is lost: the times of time codes without date, texts from their first NUL on, a negative
+    /// operator index. Entities whose identifiers are the same up to a NUL are one when they are read again.
     void WriteAll(std::ostream& stream) const;
 
     /// What has become of the lines of a stream.
@@ -91,7 +92,7 @@ public:
         std::size_t unchanged = 0;
         std::size_t refused = 0;
     };
-    /// Applies each line as a snapshot; empty lines are passed over. Entities that no line names stay.
+    /// Applies each line as a snapshot; blank lines are passed over. Entities that no line names stay.
     ///
     /// @param onLine  called with the number of each line, from 1 on, and its result
     LineCounts ReadAll(std::istream& stream,

@@ -8,7 +8,7 @@ namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
 /// Reads a recorder channel: the common members (see `JsonToMediaIOConverter`), then its own, each into the property of
-/// the same name, in the order of the table in docs/json.md. Of these have a rule of their own:
+/// the same name, in the order of the table in docs/json.md. These have a rule of their own:
 ///
 ///     "recordingStatus":"Recording"            unknown text gives Idle
 ///     "lastTimePoint":{time point}             a failure of its reader fails the channel

@@ -8,13 +8,13 @@ namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 {
 
 /// Reads a player channel: the common members (see `JsonToMediaIOConverter`), then its own, each into the property of
-/// the same name, in the order of the table in docs/json.md. Of these have a rule of their own:
+/// the same name, in the order of the table in docs/json.md but for "sequence". These have a rule of their own:
 ///
 ///     "playingStatus":"Playing"                unknown text gives Idle
 ///     "speedOnAir":{speed}                     read into 0/0, not into the current speed
 ///     "globalLoopMode":"Loop"                  unknown text gives Unknown
-///     "sequence":{sequence output}             replaces the sequence state; before "currentTimePointOnAir"
-///     "currentTimePointOnAir":{time point}     its "value" may be a number of 64 bits
+///     "sequence":{sequence output}             replaces the sequence state; read before "currentTimePointOnAir"
+///     "currentTimePointOnAir":{time point}     skipped without "_type"; its "value" may be a number of 64 bits
 ///     "primaryTimecodeType":"User"             unknown text gives NotSet
 ///     "inBoundary", "outBoundary":{boundary}   replaces the boundary
 ///     "locationOnAir"                          reserved; any value is accepted and ignored
