@@ -12,8 +12,8 @@
 namespace Qiv::DataModel::Tarvonel::MediaIOs
 {
 
-/// What every media channel of the server has: the base of MediaInput and MediaOutput, by which alone it is copied.
-/// By default everything is empty.
+/// What every media channel of the server has: the base of MediaInput and MediaOutput, as which alone channels can be
+/// copied. By default everything is empty.
 ///
 /// A copy shares the metadata profiles and the media asset: what is changed in a profile through one channel changes
 /// for the other, also from another thread. A copy that is to be changed on its own gets `Metadata().Clone()` first.

@@ -10,8 +10,9 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json
 /// What an inspection found. Readers pass silently over all but the last two.
 ///
 /// An `InvalidValue` is a text that no enumerator, time code or duration has; a number out of range, or with something
-/// behind it; another "_type" than that of an object which is skipped for it; an identifier that is no text; and what
-/// is read as it stands, but not written back so: a text or a metadata key with a NUL, a negative operator index.
+/// behind it; a total capacity below the remaining one; another "_type" than that of an object which is skipped for it;
+/// an identifier that is no text; and what is read as it stands, but not written back so: a text or a metadata key with
+/// a NUL, a negative operator index, a speed on air without denominator, an object on air without identifier.
 enum class FindingKind
 {
     UnknownMember, ///< nothing reads a member of this name here

@@ -19,7 +19,8 @@ public:
             bits_ |= Bit(kind);
     }
 
-    /// Every kind: of a document in which none of them is found, nothing is lost.
+    /// Every kind: of a document in which none of them is found, nothing is lost when it is read. Written again, it
+    /// loses only the times of time codes without date.
     static constexpr FindingKinds All() noexcept
     {
         FindingKinds all;

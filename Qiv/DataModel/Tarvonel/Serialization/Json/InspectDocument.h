@@ -49,7 +49,7 @@ QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT std::vector<Finding>
 InspectDocument(const Common::Serialization::Json::JsonObject& document, std::size_t maximum = mostFindings);
 
 /// The same for a caller who knows what the document should be: judged as by the reader of that kind, with the given
-/// channel kind as target. "_type" is optional where the reader says so, and another one is a failure.
+/// channel kind as target. "_type" is optional but for channels and boundaries, and another one is a failure.
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT std::vector<Finding>
 InspectDocument(const Common::Serialization::Json::JsonObject& document, DocumentKind kind,
                 std::size_t maximum = mostFindings);

@@ -15,6 +15,7 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/AssetBlockForm.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/BoundaryForm.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelForm.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/ChannelMembers.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/MediaAssetReferenceForm.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/OperatorProfileForm.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/Details/SequenceOutputForm.h>
@@ -202,6 +203,10 @@ void Nested(Inspection& inspection, ValueView value)
 
 template <typename Form, const ObjectShape& target>
 void Refers(Inspection& inspection, ValueView value);
+template <typename Form, const ObjectShape& target>
+void RefersOnAir(Inspection& inspection, ValueView value);
+void SpeedOnAir(Inspection& inspection, ValueView value);
+void TotalCapacity(Inspection& inspection, ValueView value);
 void Metadata(Inspection& inspection, ValueView value);
 void Boundary(Inspection& inspection, ValueView value);
 
@@ -260,13 +265,14 @@ constexpr auto assetBlockRules = RulesFor(
                              });
 constexpr ObjectShape assetBlock{AssetBlockForm::tag, {}, nullptr, assetBlockRules};
 
-constexpr auto sequenceOutputRules = RulesFor(
-    SequenceOutputForm::members, {
-                                     RuleOf(SequenceOutputForm::sequenceOnAir, Refers<SequenceReferenceForm, sequence>),
-                                     RuleOf(SequenceOutputForm::assetBlockOnAir, Nested<assetBlock>),
-                                     RuleOf(SequenceOutputForm::nextAssetBlockOnAir, Nested<assetBlock>),
-                                     RuleOf(SequenceOutputForm::editMode),
-                                 });
+constexpr auto sequenceOutputRules =
+    RulesFor(SequenceOutputForm::members,
+             {
+                 RuleOf(SequenceOutputForm::sequenceOnAir, RefersOnAir<SequenceReferenceForm, sequence>),
+                 RuleOf(SequenceOutputForm::assetBlockOnAir, Nested<assetBlock>),
+                 RuleOf(SequenceOutputForm::nextAssetBlockOnAir, Nested<assetBlock>),
+                 RuleOf(SequenceOutputForm::editMode),
+             });
 constexpr ObjectShape sequenceOutput{
     SequenceOutputForm::tag, {}, SequenceOutputForm::emptyMessage, sequenceOutputRules};
 
@@ -276,13 +282,13 @@ constexpr auto operatorRules =
                                                RuleOf(OperatorProfileForm::index, OperatorIndex),
                                            });
 
-constexpr auto commonRules =
-    RulesFor(ChannelForm::common, {
-                                      RuleOf(ChannelForm::id, FreeText),
-                                      RuleOf(ChannelForm::name, FreeText),
-                                      RuleOf(ChannelForm::mediaAssetOnAir, Refers<MediaAssetReferenceForm, mediaAsset>),
-                                      RuleOf(ChannelForm::metadata, Metadata),
-                                  });
+constexpr auto commonRules = RulesFor(
+    ChannelForm::common, {
+                             RuleOf(ChannelForm::id, FreeText),
+                             RuleOf(ChannelForm::name, FreeText),
+                             RuleOf(ChannelForm::mediaAssetOnAir, RefersOnAir<MediaAssetReferenceForm, mediaAsset>),
+                             RuleOf(ChannelForm::metadata, Metadata),
+                         });
 constexpr ObjectRules common(commonRules);
 
 constexpr auto recorderRules = RulesFor(ChannelForm::Joined(ChannelForm::ofEitherKind, ChannelForm::recorder),
@@ -293,14 +299,14 @@ constexpr auto recorderRules = RulesFor(ChannelForm::Joined(ChannelForm::ofEithe
                                             RuleOf(ChannelForm::lastUserTimecode, TimeCodeText),
                                             RuleOf(ChannelForm::primaryTimecodeType, Enumerator<TimecodePrimary>),
                                             RuleOf(ChannelForm::remainingCapacity, Nested<duration>),
-                                            RuleOf(ChannelForm::totalCapacity, Nested<duration>),
+                                            RuleOf(ChannelForm::totalCapacity, TotalCapacity),
                                         });
 constexpr ObjectShape mediaInput{ChannelForm::recorderTag, {}, ChannelForm::emptyMessage, {recorderRules, &common}};
 
 constexpr auto playerRules = RulesFor(ChannelForm::Joined(ChannelForm::ofEitherKind, ChannelForm::player),
                                       {
                                           RuleOf(ChannelForm::playingStatus, Enumerator<PlayingStatus>),
-                                          RuleOf(ChannelForm::speedOnAir, Nested<speed>),
+                                          RuleOf(ChannelForm::speedOnAir, SpeedOnAir),
                                           RuleOf(ChannelForm::globalLoopMode, Enumerator<PlayingLoopMode>),
                                           RuleOf(ChannelForm::remainingTime, Nested<duration>),
                                           RuleOf(ChannelForm::sequence, Nested<sequenceOutput>),
@@ -327,7 +333,7 @@ constexpr auto nodeRules =
                                 });
 constexpr ObjectShape node{NodeForm::tag, {}, NodeForm::emptyMessage, nodeRules};
 
-// The three objects that depend on more than one member at a time.
+// The objects that depend on more than one member at a time.
 
 void Boundary(Inspection& inspection, ValueView value)
 {
@@ -390,6 +396,42 @@ void Refers(Inspection& inspection, ValueView value)
         }
     }
     inspection.ReportUnknown(value, rules, Form::tag);
+}
+
+template <typename Form, const ObjectShape& target>
+void RefersOnAir(Inspection& inspection, ValueView value)
+{
+    Refers<Form, target>(inspection, value);
+    const auto embedded = value.Find(keyOf<Form::embedded>);
+    if (!embedded.IsEmptyObject() && TextOf(embedded.Find(keyOf<Form::id>)).empty())
+        inspection.Report(FindingKind::InvalidValue, value,
+                          "refers to an object without identifier, and writers leave it out");
+}
+
+void SpeedOnAir(Inspection& inspection, ValueView value)
+{
+    Nested<speed>(inspection, value);
+    if (value.Find(keyOf<SpeedForm::numerator>).Int32().value_or(0) != 0 &&
+        value.Find(keyOf<SpeedForm::denominator>).Int32().value_or(0) == 0)
+        inspection.Report(FindingKind::InvalidValue, value,
+                          "is undefined without a denominator, and writers leave it out");
+}
+
+void TotalCapacity(Inspection& inspection, ValueView value)
+{
+    const auto remainingCapacity = inspection.Object().Find(keyOf<ChannelForm::remainingCapacity>);
+    const auto remaining = remainingCapacity.IsObject() ? DurationOf(remainingCapacity) : std::nullopt;
+    Nested<duration>(inspection, value);
+    const auto total = DurationOf(value);
+    if (!total)
+        return;
+    const Inspection::Step step(inspection, keyOf<DurationForm::value>);
+    const auto text = value.Find(keyOf<DurationForm::value>);
+    if (*total < Duration::Empty())
+        ReportInvalid(inspection, text, "is negative; it is read as 0");
+    else if (remaining && *remaining > *total)
+        ReportInvalid(inspection, text,
+                      "is less than " + Quote(keyOf<ChannelForm::remainingCapacity>) + ", which is lowered to it");
 }
 
 void Metadata(Inspection& inspection, ValueView value)

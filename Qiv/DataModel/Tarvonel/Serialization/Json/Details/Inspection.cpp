@@ -206,6 +206,7 @@ void Inspection::InspectMember(ValueView object, const MemberRule& rule)
         return;
     }
     const Step step(*this, rule.key);
+    object_ = object;
     if (!IsOfType(value, rule.type))
         ReportWrongType(value, rule);
     else if (rule.check != nullptr)

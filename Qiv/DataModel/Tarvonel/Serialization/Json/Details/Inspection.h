@@ -145,6 +145,9 @@ public:
     /// The members of an object that no rule names, "_type" aside.
     void ReportUnknown(ValueView object, const ObjectRules& rules, std::string_view tag);
 
+    /// The object whose member a check has been called for, until that goes on to another member.
+    ValueView Object() const noexcept { return object_; }
+
     std::vector<Finding> TakeFindings() { return std::move(findings_); }
 
 private:
@@ -161,6 +164,7 @@ private:
     bool hasFatal_ = false;
     std::vector<Finding> findings_;
     std::vector<std::string_view> path_;
+    ValueView object_;
 };
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details

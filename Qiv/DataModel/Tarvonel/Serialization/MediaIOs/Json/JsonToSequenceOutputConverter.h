@@ -13,7 +13,8 @@ namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json
 ///      "nextAssetBlockOnAir":{block},"editMode":false}
 ///
 /// A block is `{"_type":"AssetBlockOnAir","id":"b1","mediaAsset":{reference "MediaAssetRef"}}`. Every member is
-/// optional; what is absent, null or of another type stays as it is, a next block too.
+/// optional; what is absent, null or of another type stays as it is, a next block too. References and blocks are
+/// replaced as a whole.
 ///
 /// Failures: "SequenceOutput is empty" and "Invalid type X : SequenceOutput expected" leave the target untouched;
 /// "Invalid type X : AssetBlockOnAir expected" and those of the reference readers leave the members before them
