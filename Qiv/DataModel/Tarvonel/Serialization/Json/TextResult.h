@@ -30,7 +30,7 @@ public:
         return success_;
     }
 
-    /// The reader's own text, as its `Result` tells it, when it fails. Empty on success.
+    /// What is wrong; when the reader fails, its own text, as its `Result` tells it. Empty on success.
     const std::string& ErrorMessage() const noexcept
     {
         return errorMessage_;

@@ -13,7 +13,8 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Documents
 {
 
 /// Writes an entity with the default writer of its kind and returns that writer's result. A writer closes what it opens
-/// also when it fails, so that text stands in `stringer` then, too.
+/// also when it fails, so that text stands in `stringer` then, too. Where no value may stand, `InvalidStringerState` is
+/// thrown, for speeds and boundaries, too.
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result
 Write(const Tarvonel::MediaIOs::MediaIO& channel, Common::Serialization::Json::Stringer& stringer);
 QIV_DATAMODEL_TARVONEL_SERIALIZATION_EXPORT Common::Serialization::Result

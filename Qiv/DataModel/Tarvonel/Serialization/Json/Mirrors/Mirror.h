@@ -94,7 +94,8 @@ public:
     };
     /// Applies each line as a snapshot; blank lines are passed over. Entities that no line names stay.
     ///
-    /// @param onLine  called with the number of each line, from 1 on, and its result
+    /// @param onLine  called with the number of each line that is not blank, counted from 1, and its result; what it
+    ///                throws passes through, and the lines up to there stay applied
     LineCounts ReadAll(std::istream& stream,
                        const std::function<void(std::size_t line, const ApplyResult& result)>& onLine = {});
 
