@@ -31,7 +31,7 @@ QIV_COMMON_SERIALIZATION_EXPORT void AppendNanosecondsObject(Stringer& stringer,
 /// may follow each other, each a JSON text of its own. Nothing is written between them, so `Value(1).Value(2)` gives
 /// `12`; who writes several texts puts what separates them onto the stream: `json.Stream() << '\n'`.
 ///
-/// Text: `"`, `\` and what stands before U+0020 are escaped (`\b \f \n \r \t`, else `\u00xx` in lower case); all other
+/// Text: `"`, `\` and characters before U+0020 are escaped (`\b \f \n \r \t`, else `\u00xx` in lower case); all other
 /// well-formed UTF-8 stands as it is; each maximal subpart of an ill-formed sequence becomes U+FFFD, so the result is
 /// valid whatever the text holds. `const char*` text ends at its first NUL; in a `std::string` or `std::string_view` a
 /// NUL is written as `\u0000`. A null pointer throws `std::invalid_argument`.

@@ -20,7 +20,7 @@ public:
     }
 
     /// Every kind: of a document in which none of them is found, nothing is lost when it is read. Written again, it
-    /// loses only the times of time codes without date.
+    /// loses only the times of time codes without date, and bytes that are no UTF-8.
     static constexpr FindingKinds All() noexcept
     {
         FindingKinds all;
