@@ -45,16 +45,15 @@ TextResult ParseFailure(std::string_view text, TextFailure failure)
     return {std::move(failure.message), PositionOf(text, static_cast<std::ptrdiff_t>(failure.offset))};
 }
 
-TextResult ReadDocument(ValueView json, std::string_view text, const ReadTarget& target, ReadMode mode,
-                        const ReadOptions& options)
+TextResult ReadDocument(ValueView json, std::string_view text, DocumentKind kind, const ReadOptions& options,
+                        const std::function<Common::Serialization::Result()>& read)
 {
-    const auto kind = KindOf(target);
     if (auto refusal = RefusalOf(json, kind, options, text); !refusal)
         return refusal;
     std::string message;
     try
     {
-        const auto result = ReadWhole(json, target, mode);
+        const auto result = read();
         if (result)
             return {};
         message = result.ErrorMessage();
@@ -69,6 +68,12 @@ TextResult ReadDocument(ValueView json, std::string_view text, const ReadTarget&
         message = exception.what();
     }
     return FailureOf(json, text, kind, message);
+}
+
+TextResult ReadDocument(ValueView json, std::string_view text, const ReadTarget& target, ReadMode mode,
+                        const ReadOptions& options)
+{
+    return ReadDocument(json, text, KindOf(target), options, [&] { return ReadWhole(json, target, mode); });
 }
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details

@@ -31,6 +31,7 @@ using Common::Serialization::Json::Details::keyOf;
 using Common::Serialization::Json::Details::ValueView;
 using Json::Details::ReadMode;
 using MediaIOs::Json::Details::ChannelForm;
+using MediaIOs::Json::Details::ChannelMembers;
 using Tarvonel::MediaIOs::MediaInput;
 using Tarvonel::MediaIOs::MediaIO;
 using Tarvonel::MediaIOs::MediaOutput;
@@ -119,12 +120,12 @@ private:
 
     static std::size_t HashOf(std::string_view id) { return std::hash<std::string_view>()(id); }
 
-    std::size_t Next(std::size_t place) const { return (place + 1) % slots_.size(); }
+    std::size_t Next(std::size_t place) const { return (place + 1) & (slots_.size() - 1); }
 
     /// Where the entity is, or the free slot in which it belongs. At least half of the slots are free.
     std::size_t PlaceOf(std::string_view id, std::size_t hash) const
     {
-        auto place = hash % slots_.size();
+        auto place = hash & (slots_.size() - 1);
         while (slots_[place].entity != nullptr && (slots_[place].hash != hash || IdOf(*slots_[place].entity) != id))
             place = Next(place);
         return place;
@@ -140,9 +141,18 @@ private:
         slots_ = std::move(larger.slots_);
     }
 
-    std::vector<Slot> slots_ = std::vector<Slot>(16);
+    std::vector<Slot> slots_ = std::vector<Slot>(16); // as many as a power of two
     std::size_t count_ = 0;
 };
+
+/// Lets the memory of a channel come while its document is read.
+void FetchFrom(const MediaIO& channel)
+{
+    constexpr std::size_t cacheLine = 64;
+    const auto* const memory = reinterpret_cast<const char*>(&channel);
+    for (std::size_t offset = 0; offset < sizeof(MediaInput); offset += cacheLine)
+        __builtin_prefetch(memory + offset, 1);
+}
 
 Effect EffectOf(bool hasChanged)
 {
@@ -227,6 +237,7 @@ private:
             return kind == DocumentKind::MediaInput ? Create<MediaInput>(source, channels)
                                                     : Create<MediaOutput>(source, channels);
         }
+        FetchFrom(*channel);
         if (source.mode == ReadMode::Snapshot)
         {
             const auto before = Documents::ToText(*channel);
@@ -234,9 +245,16 @@ private:
             effect = EffectOf(before != Documents::ToText(*channel));
             return result;
         }
-        const Details::ChannelProbe probe(source.json, *channel);
-        auto result = source.ReadInto(*channel);
-        effect = EffectOf(probe.HasChanged(*channel));
+        std::optional<Details::ChannelProbe> probe;
+        auto result =
+            Json::Details::ReadDocument(source.json, source.text, Json::Details::KindOf(*channel), source.options,
+                                        [&]
+                                        {
+                                            return Json::Details::MergeChannel(source.json, *channel,
+                                                                               [&](const ChannelMembers& update)
+                                                                               { probe.emplace(update, *channel); });
+                                        });
+        effect = EffectOf(probe && probe->HasChanged(*channel));
         return result;
     }
 };

@@ -12,6 +12,8 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Mirrors::Details
 {
 
 using Common::Serialization::Json::Details::ValueView;
+using MediaIOs::Json::Details::ChannelMembers;
+using Tarvonel::MediaIOs::Boundary;
 using Tarvonel::MediaIOs::MediaInput;
 using Tarvonel::MediaIOs::MediaIO;
 using Tarvonel::MediaIOs::MediaOutput;
@@ -26,50 +28,56 @@ bool AreSame(const std::optional<std::string>& left, const std::optional<std::st
 
 } // namespace
 
-template <const auto& member, typename Type, typename Visit>
-void ChannelProbe::VisitIfNamed(const Type& value, const Visit& visit) const
+// Calls `visit` for each member that the update names, metadata apart, with what is kept of it and what the channel
+// has.
+template <typename Probe, typename Visit>
+void ChannelProbe::VisitNamed(Probe& probe, const MediaIO& channel, const Visit& visit)
 {
-    if (members_.Get<member>())
-        visit(value);
-}
-
-// Calls `visit` with the value of each member that the update names, metadata apart.
-template <typename Visit>
-void ChannelProbe::VisitNamed(const MediaIO& channel, const Visit& visit) const
-{
-    VisitIfNamed<Form::name>(static_cast<const std::string&>(channel.Name()), visit);
-    VisitIfNamed<Form::mediaAssetOnAir>(channel.MediaAssetOnAir(), visit);
+    const ChannelMembers& members = probe.members_;
+    const auto visitIf = [&visit](const auto& member, auto& kept, const auto& value)
+    {
+        if (member)
+            visit(kept, value);
+    };
+    visitIf(members.Get<Form::name>(), probe.name_, channel.Name());
+    visitIf(members.Get<Form::mediaAssetOnAir>(), probe.mediaAssetOnAir_, channel.MediaAssetOnAir());
     if (channel.GetMode() == MediaIO::Mode::Input)
     {
         const auto& input = static_cast<const MediaInput&>(channel);
-        VisitIfNamed<Form::recordingStatus>(input.RecordingStatus(), visit);
-        VisitIfNamed<Form::lastTimePoint>(input.LastTimePoint(), visit);
-        VisitIfNamed<Form::lastTodTimecode>(input.LastTodTimecode(), visit);
-        VisitIfNamed<Form::lastUserTimecode>(input.LastUserTimecode(), visit);
-        VisitIfNamed<Form::primaryTimecodeType>(input.PrimaryTimecodeType(), visit);
+        visitIf(members.Get<Form::recordingStatus>(), probe.recordingStatus_, input.RecordingStatus());
+        visitIf(members.Get<Form::lastTimePoint>(), probe.lastTimePoint_, input.LastTimePoint());
+        visitIf(members.Get<Form::lastTodTimecode>(), probe.lastTodTimecode_, input.LastTodTimecode());
+        visitIf(members.Get<Form::lastUserTimecode>(), probe.lastUserTimecode_, input.LastUserTimecode());
+        visitIf(members.Get<Form::primaryTimecodeType>(), probe.primaryTimecodeType_, input.PrimaryTimecodeType());
         // Either capacity may change the other, but not without changing itself.
-        VisitIfNamed<Form::remainingCapacity>(input.RemainingCapacity(), visit);
-        VisitIfNamed<Form::totalCapacity>(input.TotalCapacity(), visit);
+        visitIf(members.Get<Form::remainingCapacity>(), probe.remainingCapacity_, input.RemainingCapacity());
+        visitIf(members.Get<Form::totalCapacity>(), probe.totalCapacity_, input.TotalCapacity());
         return;
     }
     const auto& output = static_cast<const MediaOutput&>(channel);
-    VisitIfNamed<Form::playingStatus>(output.PlayingStatus(), visit);
-    VisitIfNamed<Form::speedOnAir>(output.SpeedOnAir(), visit);
-    VisitIfNamed<Form::globalLoopMode>(output.GlobalLoopMode(), visit);
-    VisitIfNamed<Form::remainingTime>(output.RemainingTime(), visit);
-    VisitIfNamed<Form::currentTimePointOnAir>(output.CurrentTimePointOnAir(), visit);
-    VisitIfNamed<Form::todTimecodeOnAir>(output.TodTimecodeOnAir(), visit);
-    VisitIfNamed<Form::userTimecodeOnAir>(output.UserTimecodeOnAir(), visit);
-    VisitIfNamed<Form::primaryTimecodeType>(output.PrimaryTimecodeType(), visit);
-    VisitIfNamed<Form::sequence>(output.Sequence(), visit);
-    VisitIfNamed<Form::inBoundary>(output.InBoundary(), visit);
-    VisitIfNamed<Form::outBoundary>(output.OutBoundary(), visit);
+    visitIf(members.Get<Form::playingStatus>(), probe.playingStatus_, output.PlayingStatus());
+    visitIf(members.Get<Form::speedOnAir>(), probe.speedOnAir_, output.SpeedOnAir());
+    visitIf(members.Get<Form::globalLoopMode>(), probe.globalLoopMode_, output.GlobalLoopMode());
+    visitIf(members.Get<Form::remainingTime>(), probe.remainingTime_, output.RemainingTime());
+    visitIf(members.Get<Form::currentTimePointOnAir>(), probe.currentTimePointOnAir_, output.CurrentTimePointOnAir());
+    visitIf(members.Get<Form::todTimecodeOnAir>(), probe.todTimecodeOnAir_, output.TodTimecodeOnAir());
+    visitIf(members.Get<Form::userTimecodeOnAir>(), probe.userTimecodeOnAir_, output.UserTimecodeOnAir());
+    visitIf(members.Get<Form::primaryTimecodeType>(), probe.primaryTimecodeType_, output.PrimaryTimecodeType());
+    visitIf(members.Get<Form::sequence>(), probe.sequence_, output.Sequence());
+    visitIf(members.Get<Form::inBoundary>(), probe.inBoundary_, output.InBoundary());
+    visitIf(members.Get<Form::outBoundary>(), probe.outBoundary_, output.OutBoundary());
 }
 
-ChannelProbe::ChannelProbe(ValueView update, const MediaIO& channel) : members_(update)
+ChannelProbe::ChannelProbe(const ChannelMembers& update, const MediaIO& channel) : members_(update)
 {
-    values_.reserve(members_.Size());
-    VisitNamed(channel, [this](const auto& value) { values_.push_back(Kept(value)); });
+    VisitNamed(*this, channel,
+               [](auto& kept, const auto& value)
+               {
+                   if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::unique_ptr<Boundary>>)
+                       kept = value->Clone();
+                   else
+                       kept = value;
+               });
     if (const auto metadata = members_.Get<Form::metadata>())
     {
         hadMetadata_ = !channel.Metadata().Empty();
@@ -81,18 +89,9 @@ ChannelProbe::ChannelProbe(ValueView update, const MediaIO& channel) : members_(
 bool ChannelProbe::HasChanged(const MediaIO& channel) const
 {
     bool hasChanged = false;
-    auto before = values_.begin();
-    VisitNamed(channel,
-               [&](const auto& value)
-               {
-                   using Type = std::decay_t<decltype(value)>;
-                   if constexpr (std::is_same_v<Type, Sequence>)
-                       hasChanged =
-                           !Json::Details::AreSame(*std::get<std::unique_ptr<Sequence>>(*before), value) || hasChanged;
-                   else
-                       hasChanged = !Json::Details::AreSame(std::get<Type>(*before), value) || hasChanged;
-                   ++before;
-               });
+    VisitNamed(*this, channel,
+               [&](const auto& kept, const auto& value)
+               { hasChanged = hasChanged || !Json::Details::AreSame(*kept, value); });
     return hasChanged || (hadMetadata_ && *hadMetadata_ == channel.Metadata().Empty()) ||
            std::any_of(metadata_.begin(), metadata_.end(),
                        [&](const auto& value)

@@ -22,7 +22,6 @@
 #include <string>
 #include <string_view>
 #include <utility>
-#include <variant>
 #include <vector>
 
 namespace Qiv::DataModel::Tarvonel::Serialization::Json::Mirrors::Details
@@ -34,34 +33,38 @@ class ChannelProbe
 {
 public:
     /// Keeps what the channel has of the update's members. The update must outlive the probe.
-    ChannelProbe(Common::Serialization::Json::Details::ValueView update, const Tarvonel::MediaIOs::MediaIO& channel);
+    ChannelProbe(const MediaIOs::Json::Details::ChannelMembers& update, const Tarvonel::MediaIOs::MediaIO& channel);
 
     bool HasChanged(const Tarvonel::MediaIOs::MediaIO& channel) const;
 
 private:
     using Form = MediaIOs::Json::Details::ChannelForm;
-    using Sequence = BusinessEntityModel::BaseTypes::Optional<Tarvonel::MediaIOs::SequenceOutput>;
-    using Value = std::variant<std::string, Tarvonel::MediaIOs::RecordingStatus, Tarvonel::MediaIOs::PlayingStatus,
-                               Tarvonel::MediaIOs::PlayingLoopMode, MediaAssets::TimecodePrimary, TimePoints::TimePoint,
-                               TimePoints::TimeCode, TimePoints::Duration, Tarvonel::MediaIOs::Speed,
-                               BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset>,
-                               std::unique_ptr<Tarvonel::MediaIOs::Boundary>, std::unique_ptr<Sequence>>;
 
-    static Value Kept(const std::unique_ptr<Tarvonel::MediaIOs::Boundary>& boundary) { return boundary->Clone(); }
-    static Value Kept(const Sequence& sequence) { return std::make_unique<Sequence>(sequence); }
-    template <typename Type>
-    static Value Kept(const Type& value)
-    {
-        return value;
-    }
-
-    template <const auto& member, typename Type, typename Visit>
-    void VisitIfNamed(const Type& value, const Visit& visit) const;
-    template <typename Visit>
-    void VisitNamed(const Tarvonel::MediaIOs::MediaIO& channel, const Visit& visit) const;
+    // The probe is constant or not.
+    template <typename Probe, typename Visit>
+    static void VisitNamed(Probe& probe, const Tarvonel::MediaIOs::MediaIO& channel, const Visit& visit);
 
     MediaIOs::Json::Details::ChannelMembers members_;
-    std::vector<Value> values_; // of the members that the update has, in the order of VisitNamed
+    // What the channel had of the members that the update has, in the order of the form.
+    std::optional<std::string> name_;
+    std::optional<BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset>> mediaAssetOnAir_;
+    std::optional<MediaAssets::TimecodePrimary> primaryTimecodeType_;
+    std::optional<Tarvonel::MediaIOs::RecordingStatus> recordingStatus_;
+    std::optional<TimePoints::TimePoint> lastTimePoint_;
+    std::optional<TimePoints::TimeCode> lastTodTimecode_;
+    std::optional<TimePoints::TimeCode> lastUserTimecode_;
+    std::optional<TimePoints::Duration> remainingCapacity_;
+    std::optional<TimePoints::Duration> totalCapacity_;
+    std::optional<Tarvonel::MediaIOs::PlayingStatus> playingStatus_;
+    std::optional<Tarvonel::MediaIOs::Speed> speedOnAir_;
+    std::optional<Tarvonel::MediaIOs::PlayingLoopMode> globalLoopMode_;
+    std::optional<TimePoints::Duration> remainingTime_;
+    std::optional<BusinessEntityModel::BaseTypes::Optional<Tarvonel::MediaIOs::SequenceOutput>> sequence_;
+    std::optional<TimePoints::TimePoint> currentTimePointOnAir_;
+    std::optional<TimePoints::TimeCode> todTimecodeOnAir_;
+    std::optional<TimePoints::TimeCode> userTimecodeOnAir_;
+    std::optional<std::unique_ptr<Tarvonel::MediaIOs::Boundary>> inBoundary_;
+    std::optional<std::unique_ptr<Tarvonel::MediaIOs::Boundary>> outBoundary_;
     std::vector<std::pair<std::string_view, std::optional<std::string>>> metadata_;
     std::optional<bool> hadMetadata_; // when the update names them
 };

@@ -22,6 +22,8 @@ namespace Qiv::DataModel::Tarvonel::Serialization::MediaIOs::Json::Details
 
 using ChannelMembers = Common::Serialization::Json::Details::KnownMembers<ChannelForm>;
 
+/// What `ReadMediaIO` of Readers.h does.
+Common::Serialization::Result ReadMediaIO(const ChannelMembers& members, Tarvonel::MediaIOs::MediaIO& channel);
 /// Applies the members that channels of both kinds have, and those of each kind.
 Common::Serialization::Result ApplyCommonMembers(const ChannelMembers& members, Tarvonel::MediaIOs::MediaIO& channel);
 Common::Serialization::Result ApplyRecorderMembers(const ChannelMembers& members,

@@ -22,7 +22,11 @@ using Form = ChannelForm;
 
 Result ReadMediaIO(ValueView json, MediaIO& channel)
 {
-    const ChannelMembers members(json);
+    return ReadMediaIO(ChannelMembers(json), channel);
+}
+
+Result ReadMediaIO(const ChannelMembers& members, MediaIO& channel)
+{
     if (members.IsEmpty())
         return Form::emptyMessage;
     const auto type = members.Get<Form::type>();
