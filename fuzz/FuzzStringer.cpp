@@ -3,8 +3,10 @@
 
 #include <Qiv/Common/Serialization/Json/InvalidStringerState.h>
 #include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
+#include <Qiv/Common/Serialization/Json/QuotedKey.h>
 #include <Qiv/Common/Serialization/Json/Stringer.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <iterator>
@@ -13,6 +15,7 @@
 
 using namespace Fuzz;
 using Qiv::Common::Serialization::Json::InvalidStringerState;
+using Qiv::Common::Serialization::Json::QuotedKey;
 using Qiv::Common::Serialization::Json::Stringer;
 
 namespace
@@ -407,7 +410,19 @@ void Member(Pair& pair, Input& input)
 {
     const ExactCopy name(input.Text());
     const ExactCopy text(input.Text());
-    if (!pair.Run(pair.model.TakesKey(), [&] { pair.writer.Member(name.Text(), text.Text()); }))
+    const bool isPlain = name.Text().size() <= 28 && std::all_of(name.Text().begin(), name.Text().end(),
+                                                                 [](char character) {
+                                                                     return character >= ' ' && character <= '~' &&
+                                                                            character != '"' && character != '\\';
+                                                                 });
+    const auto write = [&]
+    {
+        if (isPlain)
+            pair.writer.Member(QuotedKey(name.Text()), text.Text());
+        else
+            pair.writer.Member(name.Text(), text.Text());
+    };
+    if (!pair.Run(pair.model.TakesKey(), write))
         return;
     pair.model.Key(name.Text());
     pair.model.Value(Quoted(text.Text()));

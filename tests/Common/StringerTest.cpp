@@ -1,5 +1,6 @@
 #include <Qiv/Common/Serialization/Json/InvalidStringerState.h>
 #include <Qiv/Common/Serialization/Json/NanosecondsObject.h>
+#include <Qiv/Common/Serialization/Json/QuotedKey.h>
 #include <Qiv/Common/Serialization/Json/Stringer.h>
 
 #include "ThrownText.h"
@@ -135,6 +136,29 @@ TEST(Stringer, WritesTheShortestNumberThatReadsBack)
         EXPECT_THROW(json.Value(number), std::invalid_argument);
         EXPECT_EQ(json.Value(1).CloseArray().ToString(), "[1]");
     }
+}
+
+TEST(Stringer, WritesAQuotedKeyAsItWritesTheSameText)
+{
+    const std::string plain = " !#$%&'()*+,-./09:;<=>?@AZ[]^_`az{|}~";
+    for (std::size_t size = 0; size <= 28; ++size)
+        for (const bool isPretty : {false, true})
+        {
+            const auto name = plain.substr(plain.size() - size);
+            const QuotedKey key(name);
+            auto json = isPretty ? Stringer::PrettyStringer() : Stringer();
+            auto expected = json;
+            for (int i = 0; i < 60; ++i) // grows in every phase
+            {
+                json.Object().Member(key, "v").Key(key);
+                expected.Object().Member(name, "v").Key(name);
+            }
+            EXPECT_EQ(json.Value(1).ToString(), expected.Value(1).ToString()) << name;
+            EXPECT_EQ(key.Text(), name);
+        }
+    for (const std::string_view refused :
+         {"a\"b", "a\\b", "a\x1f", "a\x7f", "\xC3\xA9", "longer than 28 characters are"})
+        EXPECT_THROW(QuotedKey{refused}, std::invalid_argument) << refused;
 }
 
 TEST(Stringer, TellsWhyItRefusesACall)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Qiv/Common/Serialization/Export.h>
+#include <Qiv/Common/Serialization/Json/QuotedKey.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -135,6 +136,7 @@ public:
     Stringer& Key(const char* key) { return Key(NotNull(key, "Key")); }
     Stringer& Key(const std::string& key) { return Key(std::string_view(key)); }
     Stringer& Key(std::string_view key);
+    Stringer& Key(const QuotedKey& key);
 
     Stringer& Value(bool value);
     Stringer& Value(std::int32_t value);
@@ -155,6 +157,7 @@ public:
         return Member(NotNull(key, "Key"), NotNull(value, "Value"));
     }
     Stringer& Member(std::string_view key, std::string_view value);
+    Stringer& Member(const QuotedKey& key, std::string_view value);
 
     /// Opens an object, under `key` if it is given and not null, until the returned scope ends.
     [[nodiscard]] InternalObjectScope ObjectScope();
@@ -172,7 +175,7 @@ public:
 private:
     friend void AppendNanosecondsObject(Stringer& stringer, std::string_view type, std::int64_t nanoseconds);
 
-    using TextMember = std::pair<std::string_view, std::string_view>;
+    using TextMember = std::pair<const QuotedKey&, std::string_view>;
 
     /// Growing text into whose free end an item is composed: `Reserve`, write through the pointer, `End`.
     class TextBuffer
@@ -185,6 +188,7 @@ private:
 
         std::string_view Text() const noexcept { return {data_.get(), static_cast<std::size_t>(end_ - data_.get())}; }
 
+        bool HasRoom(std::size_t room) const noexcept { return static_cast<std::size_t>(limit_ - end_) >= room; }
         char* Reserve(std::size_t room) { return Reserve(end_, room); }
         /// Makes room for `room` bytes behind `end` and keeps what is composed before it.
         char* Reserve(char* end, std::size_t room)
@@ -249,11 +253,23 @@ private:
     static char* Indent(char* end, std::size_t levels) noexcept;
     char* BeginItem(std::size_t room);
     void EndItem(char* end, bool needsValue);
-    char* ComposeMember(char* end, std::string_view key, std::string_view value);
+    static std::size_t RoomFor(std::string_view key) noexcept;
+    static std::size_t RoomFor(const QuotedKey& key) noexcept;
+    char* ComposeKey(char* end, std::string_view key);
+    char* ComposeKey(char* end, const QuotedKey& key) noexcept;
+    template <typename TKey>
+    Stringer& WriteKey(const TKey& key);
+    template <typename TKey>
+    char* ComposeMember(char* end, const TKey& key, std::string_view value);
+    template <typename TKey>
+    Stringer& WriteMember(const TKey& key, std::string_view value);
     void ObjectOfTwo(const TextMember& first, const TextMember& second);
     void WriteThrough();
     Stringer& Open(const char* operation, bool isObject);
     Stringer& Close(const char* operation, bool isObject);
+    bool CloseUnlessItMayThrow(bool isObject) noexcept;
+    std::size_t ClosingRoom() const noexcept { return 2 + 2 * Depth(); }
+    void WriteClosing(bool isObject);
     Stringer& Literal(const char* operation, std::string_view text);
 
     std::unique_ptr<std::stringstream> stream_; // made when it is first asked for; from then on others may look at it

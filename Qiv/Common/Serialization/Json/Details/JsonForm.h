@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Qiv/Common/Serialization/Json/Details/JsonType.h>
+#include <Qiv/Common/Serialization/Json/QuotedKey.h>
 
 #include <array>
 #include <cstddef>
@@ -99,7 +100,7 @@ constexpr std::string_view ListedKey(const FormMember<TForm>& member)
 
 /// The key of a member, for example keyOf<SpeedForm::numerator>.
 template <const auto& member>
-inline constexpr std::string_view keyOf = ListedKey(member);
+inline constexpr QuotedKey keyOf{ListedKey(member)};
 
 /// The keys of a form in the order of its list.
 template <typename TForm>

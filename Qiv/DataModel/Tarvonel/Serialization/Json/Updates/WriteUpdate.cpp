@@ -31,6 +31,7 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Updates
 using BusinessEntityModel::BaseTypes::Optional;
 using BusinessEntityModel::BaseTypes::SharedReference;
 using Common::Serialization::Json::AppendNanosecondsObject;
+using Common::Serialization::Json::QuotedKey;
 using Common::Serialization::Json::Stringer;
 using Common::Serialization::Json::Details::DurationForm;
 using Common::Serialization::Json::Details::keyOf;
@@ -220,7 +221,7 @@ public:
 
 private:
     template <typename Value>
-    void Member(std::string_view key, const Value& before, const Value& after)
+    void Member(const QuotedKey& key, const Value& before, const Value& after)
     {
         if (AreSame(before, after))
             return;

@@ -9,6 +9,7 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Nodes::Json
 {
 
 using Common::Serialization::Result;
+using Common::Serialization::Json::QuotedKey;
 using Common::Serialization::Json::Stringer;
 using Common::Serialization::Json::Details::keyOf;
 using Tarvonel::Nodes::Node;
@@ -16,7 +17,7 @@ using Tarvonel::Nodes::Node;
 namespace
 {
 
-void AppendUnlessEmpty(Stringer& stringer, std::string_view key, const std::string& text)
+void AppendUnlessEmpty(Stringer& stringer, const QuotedKey& key, const std::string& text)
 {
     if (!text.empty())
         stringer.Member(key, text.c_str());

@@ -22,6 +22,7 @@ using namespace MediaAssets::Serialization::Json;
 using BusinessEntityModel::BaseTypes::SharedReference;
 using BusinessEntityModel::Edits::Sequence;
 using BusinessEntityModel::Edits::Serialization::Json::SequenceToJsonConverter;
+using Common::Serialization::Json::QuotedKey;
 using Common::Serialization::Json::Details::DurationForm;
 using Common::Serialization::Json::Details::keyOf;
 using MediaAssets::MediaAsset;
@@ -63,7 +64,7 @@ Result AppendCommonMembers(Stringer& stringer, const MediaIO& channel)
     return {};
 }
 
-void AppendUnlessEmpty(Stringer& stringer, std::string_view key, const TimeCode& timeCode)
+void AppendUnlessEmpty(Stringer& stringer, const QuotedKey& key, const TimeCode& timeCode)
 {
     if (timeCode == TimeCode::Empty())
         return;
@@ -71,7 +72,7 @@ void AppendUnlessEmpty(Stringer& stringer, std::string_view key, const TimeCode&
     stringer.Member(key, QivTimeCodeFormatter::FormatTo(timeCode, text));
 }
 
-void AppendUnlessEmpty(Stringer& stringer, std::string_view key, const Duration& duration)
+void AppendUnlessEmpty(Stringer& stringer, const QuotedKey& key, const Duration& duration)
 {
     if (duration == Duration::Empty())
         return;

@@ -40,8 +40,10 @@ Result AppendSpeed(Stringer& stringer, const Tarvonel::MediaIOs::Speed& speed);
 /// What MediaIOToJsonConverter::AppendMediaIO does.
 Result AppendCommonMembers(Stringer& stringer, const Tarvonel::MediaIOs::MediaIO& channel);
 
-void AppendUnlessEmpty(Stringer& stringer, std::string_view key, const TimePoints::TimeCode& timeCode);
-void AppendUnlessEmpty(Stringer& stringer, std::string_view key, const TimePoints::Duration& duration);
+void AppendUnlessEmpty(Stringer& stringer, const Common::Serialization::Json::QuotedKey& key,
+                       const TimePoints::TimeCode& timeCode);
+void AppendUnlessEmpty(Stringer& stringer, const Common::Serialization::Json::QuotedKey& key,
+                       const TimePoints::Duration& duration);
 
 /// Writes a reference; the time points of an embedded asset with `timepointConverter` or, when that is empty, in the
 /// default form.
