@@ -12,8 +12,8 @@
 #include <algorithm>
 #include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -80,17 +80,44 @@ std::string FlatKey(const std::string& profileName, const std::string& key)
     return profileName + '.' + key;
 }
 
-class MetadataUpdate
+/// A key of the metadata and what it gets: a text, which lives as long as its profile is left alone, or a number.
+struct Member
+{
+    std::string key;
+    const std::string* text;
+    std::int32_t number;
+};
+
+/// What differs: the members that an update has, and what it cannot have.
+class Difference
 {
 public:
-    MetadataUpdate(const EditorialMetadata& before, Update& update) : update_(update)
+    Difference(const EditorialMetadata& before, const EditorialMetadata& after, Update& update) : update_(update)
     {
         const auto theOperator = before.Find(OperatorProfileForm::profileName);
         isRefused_ = theOperator != nullptr && AsOperator(theOperator.get()) == nullptr;
+
+        auto old = before.begin();
+        for (const auto& [name, profile] : after)
+        {
+            for (; old != before.end() && old->first < name; ++old)
+                CompareProfile(old->first.Value(), old->second.get(), nullptr);
+            const bool isKnown = old != before.end() && old->first == name;
+            CompareProfile(name.Value(), isKnown ? old->second.get() : nullptr, profile.get());
+            if (isKnown)
+                ++old;
+        }
+        for (; old != before.end(); ++old)
+            CompareProfile(old->first.Value(), old->second.get(), nullptr);
+        CompareEmptiness(before, after);
     }
 
-    /// The entry under one name; null for a profile that is null or absent.
-    void WriteProfile(const std::string& name, const MetadataProfile* before, const MetadataProfile* after)
+    const std::vector<Member>& Members() const { return members_; }
+    bool HasOmissions() const { return hasOmissions_; }
+
+private:
+    // The entry under one name; null for a profile that is null or absent.
+    void CompareProfile(const std::string& name, const MetadataProfile* before, const MetadataProfile* after)
     {
         if (before == after || (before != nullptr && after != nullptr && before->Equals(*after)))
             return;
@@ -98,35 +125,29 @@ public:
             return;
         if (name == OperatorProfileForm::profileName && !isRefused_ &&
             (after == nullptr || AsOperator(after) != nullptr))
-            WriteOperator(AsOperator(before), AsOperator(after));
+            CompareOperator(AsOperator(before), AsOperator(after));
         else if (AsOperator(before) != nullptr || AsOperator(after) != nullptr)
             Omit(name, "the profile is the operator's under another name, or takes the place of one of another kind");
         else
-            WriteGeneric(name, before, AsGeneric(after));
+            CompareGeneric(name, before, AsGeneric(after));
     }
 
-    bool HasWritten() const { return object_.has_value(); }
-
-    /// A channel that has profiles shows metadata, also when none of the profiles has anything to show.
-    void Finish(const EditorialMetadata& before, const EditorialMetadata& after)
+    // A channel that has profiles shows metadata, also when none of the profiles has anything to show.
+    void CompareEmptiness(const EditorialMetadata& before, const EditorialMetadata& after)
     {
-        const bool willBeEmpty = before.Empty() && !object_.has_value();
+        const bool willBeEmpty = before.Empty() && members_.empty();
         if (willBeEmpty == after.Empty() || hasOmissions_)
             return;
+        if (after.Empty())
+            return Omit("the last profile is gone, and merging never removes one");
         const auto profile = after.Find(OperatorProfileForm::profileName);
         if (const auto* const theOperator = AsOperator(profile.get()); theOperator != nullptr)
-        {
-            Open().Key(keyOf<OperatorProfileForm::index>).Value(theOperator->Index()); // no writer shows it
-            return;
-        }
-        update_.hasChanges = true;
-        update_.Omit({keyOf<ChannelForm::metadata>},
-                     after.Empty() ? "the last profile is gone, and merging never removes one"
-                                   : "the only profiles are without keys, for which there is no document");
+            AddNumber(keyOf<OperatorProfileForm::index>, theOperator->Index()); // no writer shows it
+        else
+            Omit("the only profiles are without keys, for which there is no document");
     }
 
-private:
-    void WriteGeneric(const std::string& name, const MetadataProfile* before, const GenericMetadataProfile* after)
+    void CompareGeneric(const std::string& name, const MetadataProfile* before, const GenericMetadataProfile* after)
     {
         const auto* const genericBefore = AsGeneric(before);
         const auto nameBefore = genericBefore != nullptr ? genericBefore->FullyQualifiedName().Value() : name;
@@ -145,7 +166,7 @@ private:
                 Omit(FlatKey(nameBefore, *old->first), isGone);
             const bool isKnown = isSameName && old != oldEntries.end() && *old->first == *entry.first;
             if (!isKnown || !AreWrittenAlike(*old->second, *entry.second))
-                WriteEntry(nameAfter, *entry.first, *entry.second, obstacle);
+                AddText(nameAfter, *entry.first, *entry.second, obstacle);
             if (isKnown)
                 ++old;
         }
@@ -166,8 +187,12 @@ private:
         return ObstacleOfText(name);
     }
 
-    void WriteEntry(const std::string& profileName, const std::string& key, const std::string& value,
-                    const char* obstacle)
+    void AddNumber(std::string_view key, std::int32_t number)
+    {
+        members_.push_back({std::string(key), nullptr, number});
+    }
+
+    void AddText(const std::string& profileName, const std::string& key, const std::string& value, const char* obstacle)
     {
         auto flatKey = FlatKey(profileName, key);
         if (obstacle == nullptr && key.find('.') != std::string::npos)
@@ -180,11 +205,11 @@ private:
             obstacle = "readers refuse all metadata, since the operator's name has a profile of another kind";
         if (obstacle != nullptr)
             return Omit(flatKey, obstacle);
-        Open().Member(flatKey, value);
+        members_.push_back({std::move(flatKey), &value, 0});
     }
 
     // A missing profile shows as little as one without server and with a negative index.
-    void WriteOperator(const PelOperatorMetadataProfile* before, const PelOperatorMetadataProfile* after)
+    void CompareOperator(const PelOperatorMetadataProfile* before, const PelOperatorMetadataProfile* after)
     {
         constexpr auto noServer = PelOperatorMetadataProfile::EmptyServerSerialNumber();
         const auto serverId = after != nullptr ? after->ServerId() : noServer;
@@ -200,7 +225,7 @@ private:
                      "the server identifier is no positive multiple of 10, and readers take no other");
             else
             {
-                Open().Key(keyOf<OperatorProfileForm::serverId>).Value(serverId);
+                AddNumber(keyOf<OperatorProfileForm::serverId>, serverId);
                 isReached = true;
             }
         }
@@ -208,51 +233,34 @@ private:
         const bool isIndexRight =
             isReached ? std::max(index, -1) == (before != nullptr ? std::max(before->Index(), -1) : 0) : index < 0;
         if (!isIndexRight)
-            Open().Key(keyOf<OperatorProfileForm::index>).Value(index);
+            AddNumber(keyOf<OperatorProfileForm::index>, index);
     }
 
     void Omit(std::string_view key, const char* sentence)
     {
         hasOmissions_ = true;
-        update_.hasChanges = true;
         update_.Omit({keyOf<ChannelForm::metadata>, key}, sentence);
     }
-
-    Stringer& Open()
+    void Omit(const char* sentence)
     {
-        update_.hasChanges = true;
-        if (!object_)
-        {
-            update_.stringer.Key(keyOf<ChannelForm::metadata>);
-            object_.emplace(update_.stringer);
-        }
-        return update_.stringer;
+        hasOmissions_ = true;
+        update_.Omit({keyOf<ChannelForm::metadata>}, sentence);
     }
 
     Update& update_;
+    std::vector<Member> members_;
     bool hasOmissions_ = false;
     bool isRefused_ = false; // reading any metadata throws, since the operator's name has a profile of another kind
-    std::optional<Stringer::InternalObjectScope> object_;
 };
 
-// Returns whether something has been written.
-bool WriteDifferences(const EditorialMetadata& before, const EditorialMetadata& after, Update& update)
+void Write(const std::vector<Member>& members, Stringer& stringer)
 {
-    MetadataUpdate metadata(before, update);
-    auto old = before.begin();
-    for (const auto& [name, profile] : after)
-    {
-        for (; old != before.end() && old->first < name; ++old)
-            metadata.WriteProfile(old->first.Value(), old->second.get(), nullptr);
-        const bool isKnown = old != before.end() && old->first == name;
-        metadata.WriteProfile(name.Value(), isKnown ? old->second.get() : nullptr, profile.get());
-        if (isKnown)
-            ++old;
-    }
-    for (; old != before.end(); ++old)
-        metadata.WriteProfile(old->first.Value(), old->second.get(), nullptr);
-    metadata.Finish(before, after);
-    return metadata.HasWritten();
+    const auto scope = stringer.ObjectScope();
+    for (const auto& member : members)
+        if (member.text != nullptr)
+            stringer.Member(member.key, *member.text);
+        else
+            stringer.Key(member.key).Value(member.number);
 }
 
 // The member that a channel shows: the text of the metadata, or none.
@@ -264,22 +272,15 @@ std::string Shown(const EditorialMetadata& metadata)
     return stringer.ToString();
 }
 
-// Whether merging the update shows what `after` shows. It can although not all profiles become the same ones: a profile
-// under another name than its own, or a key with a dot, may read as something that was there before.
-bool IsShownAfterMerging(const EditorialMetadata& before, const EditorialMetadata& after)
+EditorialMetadata Merged(const EditorialMetadata& before, const std::vector<Member>& members)
 {
     Stringer stringer;
-    {
-        const auto scope = stringer.ObjectScope();
-        Update update{stringer};
-        WriteDifferences(before, after, update);
-    }
+    Write(members, stringer);
     JsonObject json;
     static_cast<void>(ParseText(stringer.ToString(), json)); // what has been written can be parsed
     auto merged = before.Clone();
-    static_cast<void>(
-        MediaIOs::Json::Details::ReadMetadata(ValueView(json).Find(keyOf<ChannelForm::metadata>), merged));
-    return Shown(merged) == Shown(after);
+    static_cast<void>(MediaIOs::Json::Details::ReadMetadata(ValueView(json), merged));
+    return merged;
 }
 
 } // namespace
@@ -288,14 +289,25 @@ void WriteMetadata(const EditorialMetadata& before, const EditorialMetadata& aft
 {
     if (before == after)
         return;
-    const auto hadChanges = update.hasChanges;
     const auto omissionsBefore = update.omissions.size();
-    const bool hasWritten = WriteDifferences(before, after, update);
-    if (update.omissions.size() != omissionsBefore && IsShownAfterMerging(before, after))
+    const Difference difference(before, after, update);
+    if (difference.HasOmissions())
     {
-        update.omissions.resize(omissionsBefore);
-        update.hasChanges = hadChanges || hasWritten;
+        // Other profiles can show the same, before merging or behind it: one under another name than its own, or with a
+        // key that has a dot or a NUL, may read as something that was there before.
+        const auto shown = Shown(after);
+        const bool isShown = Shown(before) == shown;
+        if (isShown || Shown(Merged(before, difference.Members())) == shown)
+            update.omissions.resize(omissionsBefore);
+        if (isShown)
+            return;
     }
+    if (!difference.Members().empty())
+    {
+        update.stringer.Key(keyOf<ChannelForm::metadata>);
+        Write(difference.Members(), update.stringer);
+    }
+    update.hasChanges |= !difference.Members().empty() || update.omissions.size() != omissionsBefore;
 }
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Updates::Details
