@@ -54,6 +54,13 @@ public:
     }
     /// A text of up to 255 bytes, whose length stands before it.
     std::string_view Text() noexcept { return Text(Byte()); }
+    /// A text up to the next line end, which goes with it.
+    std::string_view Line() noexcept
+    {
+        const auto line = Text(rest_.find('\n'));
+        Text(1);
+        return line;
+    }
     std::string_view Rest() noexcept { return Text(rest_.size()); }
 
 private:
