@@ -113,11 +113,12 @@ constexpr bool takes = false;
 template <typename T>
 constexpr bool takes<T, std::void_t<decltype(std::declval<Stringer&>().Value(std::declval<T>()))>> = true;
 
-TEST(Stringer, TakesWholeNumbersOf32BitsOnly)
+TEST(Stringer, TakesWholeNumbersOf32BitsAndTextsOnly)
 {
     static_assert(takes<std::int32_t> && takes<std::int16_t> && takes<bool> && takes<float> && takes<double>);
     static_assert(!takes<long> && !takes<long long> && !takes<std::size_t> && !takes<unsigned>);
     static_assert(!takes<std::int64_t> && !takes<std::uint64_t>);
+    static_assert(takes<char*> && takes<const char*> && !takes<const unsigned char*> && !takes<int*> && !takes<void*>);
     EXPECT_EQ(Stringer().Value(std::int16_t{-1}).ToString(), "-1");
 }
 

@@ -149,6 +149,9 @@ public:
     Stringer& Value(const char* value) { return Value(NotNull(value, "Value")); }
     Stringer& Value(const std::string& value) { return Value(std::string_view(value)); }
     Stringer& Value(std::string_view value);
+    /// Another pointer is no truth value.
+    template <typename Other, std::enable_if_t<!std::is_same_v<Other, char>, int> = 0>
+    Stringer& Value(const Other* value) = delete;
     Stringer& NullValue();
 
     /// `Key(key).Value(value)` in one go, which is faster. After a failure neither has been written.
