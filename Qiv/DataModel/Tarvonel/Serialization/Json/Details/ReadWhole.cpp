@@ -29,17 +29,16 @@ namespace
 // it has. A small update of a full player then takes 10,300 instructions with its parsing, not 12,200. Metadata alone
 // decide by what they hold already whether reading throws, and others may hold their profiles: the trial merges into
 // clones of them, which the channel then takes over.
-template <typename Channel, typename BeforeMerge>
-Result MergeInto(Channel& channel, ValueView json, const BeforeMerge& beforeMerge)
+template <typename Channel>
+Result MergeInto(Channel& channel, const ChannelMembers& members, const std::function<void()>& beforeMerge)
 {
-    const ChannelMembers members(json);
     auto trial = NewEntity(channel);
     const bool hasMetadata = bool(members.Get<ChannelForm::metadata>());
     if (hasMetadata)
         trial.Metadata() = channel.Metadata().Clone();
     if (auto result = ReadMediaIO(members, trial); !result)
         return result;
-    beforeMerge(members);
+    beforeMerge();
     if (hasMetadata)
         std::swap(channel.Metadata(), trial.Metadata());
     return ReadMediaIO(members, channel);
@@ -61,11 +60,9 @@ struct WholeReader
 
     Result operator()(MediaIO& channel) const
     {
-        return WithOwnKind(channel,
-                           [this](auto& ownKind) {
-                               return mode == ReadMode::Snapshot ? Read(ownKind, ReadChannel)
-                                                                 : MergeInto(ownKind, json, [](const auto&) {});
-                           });
+        if (mode == ReadMode::Merge)
+            return MergeChannel(ChannelMembers(json), channel, [] {});
+        return WithOwnKind(channel, [this](auto& ownKind) { return Read(ownKind, ReadChannel); });
     }
     Result operator()(Node& node) const { return ReadNode(json, node); } // assigned whole, as the last step
     Result operator()(SequenceOutput& sequenceOutput) const { return Read(sequenceOutput, ReadSequenceOutput); }
@@ -107,10 +104,9 @@ Result ReadWhole(ValueView json, const ReadTarget& target, ReadMode mode)
     return std::visit([&](auto entity) { return WholeReader{json, mode}(entity.get()); }, target);
 }
 
-Result MergeChannel(ValueView json, MediaIO& channel,
-                    const std::function<void(const ChannelMembers& members)>& beforeMerge)
+Result MergeChannel(const ChannelMembers& members, MediaIO& channel, const std::function<void()>& beforeMerge)
 {
-    return WithOwnKind(channel, [&](auto& ownKind) { return MergeInto(ownKind, json, beforeMerge); });
+    return WithOwnKind(channel, [&](auto& ownKind) { return MergeInto(ownKind, members, beforeMerge); });
 }
 
 DocumentKind KindOf(const ReadTarget& target)

@@ -23,11 +23,11 @@ enum class ReadMode
 Common::Serialization::Result ReadWhole(Common::Serialization::Json::Details::ValueView json, const ReadTarget& target,
                                         ReadMode mode);
 
-/// Merges a document into a channel, whole or not at all, and calls `beforeMerge` in between, when nothing can fail any
-/// more and the channel is still as it was.
-Common::Serialization::Result
-MergeChannel(Common::Serialization::Json::Details::ValueView json, Tarvonel::MediaIOs::MediaIO& channel,
-             const std::function<void(const MediaIOs::Json::Details::ChannelMembers& members)>& beforeMerge);
+/// Merges the members of a document into a channel, whole or not at all, and calls `beforeMerge` in between, when
+/// nothing can fail any more and the channel is still as it was.
+Common::Serialization::Result MergeChannel(const MediaIOs::Json::Details::ChannelMembers& members,
+                                           Tarvonel::MediaIOs::MediaIO& channel,
+                                           const std::function<void()>& beforeMerge);
 
 /// The kind of document that the target is read from.
 DocumentKind KindOf(const ReadTarget& target);

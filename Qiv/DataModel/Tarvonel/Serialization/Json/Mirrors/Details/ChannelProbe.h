@@ -44,7 +44,7 @@ private:
     template <typename Probe, typename Visit>
     static void VisitNamed(Probe& probe, const Tarvonel::MediaIOs::MediaIO& channel, const Visit& visit);
 
-    MediaIOs::Json::Details::ChannelMembers members_;
+    const MediaIOs::Json::Details::ChannelMembers& members_;
     // What the channel had of the members that the update has, in the order of the form.
     std::optional<std::string> name_;
     std::optional<BusinessEntityModel::BaseTypes::SharedReference<MediaAssets::MediaAsset>> mediaAssetOnAir_;
