@@ -31,7 +31,7 @@ TextResult ReadFirst(std::string_view text, const ReadOptions& options, std::uni
     const auto result = Documents::ReadAnyText(text, options);
     if (const auto* const read = result ? Documents::ChannelOf(result.Entity()) : nullptr)
         channel = Channels::Clone(*read);
-    return result;
+    return static_cast<const TextResult&>(result);
 }
 
 bool IsAnother(std::string_view identifier, const std::string& expected)
