@@ -102,14 +102,17 @@ constexpr std::string_view ListedKey(const FormMember<TForm>& member)
 template <const auto& member>
 inline constexpr QuotedKey keyOf{ListedKey(member)};
 
-/// The keys of a form in the order of its list.
 template <typename TForm>
-inline constexpr auto keysOf = []
+constexpr auto ListedKeys()
 {
     std::array<std::string_view, TForm::members.size()> keys{};
     for (std::size_t i = 0; i < keys.size(); ++i)
         keys[i] = TForm::members[i]->key;
     return keys;
-}();
+}
+
+/// The keys of a form in the order of its list.
+template <typename TForm>
+inline constexpr auto keysOf = ListedKeys<TForm>();
 
 } // namespace Qiv::Common::Serialization::Json::Details
