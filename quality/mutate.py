@@ -21,11 +21,13 @@ NOW, KEPT = ROOT / "build/mutate/now", ROOT / "build/mutate/kept"
 # The programs that test a folder, nearest first; the first pattern that fits counts.
 RELATED = {
     "Qiv/TimePoints/": ["TimePointsTests", "fuzz_timecode", "fuzz_duration", "ConvertersTests"],
+    "Qiv/Common/Serialization/Json/Details/(NumberText|ValueView)": ["TextTests", "fuzz_textandtree", "ConvertersTests"],
     "Qiv/Common/": ["CommonTests", "fuzz_stringer", "ConvertersTests", "InspectionTests"],
     "Qiv/BusinessEntityModel/BaseTypes/": ["BaseTypesTest", "EntitiesTest", "ConvertersTests"],
     "Qiv/DataModel/Tarvonel/Serialization/Json/(Channels|Documents)/": ["DocumentsTests"],
     "Qiv/DataModel/Tarvonel/Serialization/Json/(Mirrors|Updates)/": ["UpdatesTests", "fuzz_updates"],
-    "Qiv/DataModel/Tarvonel/Serialization/Json/Details/(Quote|Text|ToTree|Utf8)": ["TextTests", "InspectionTests"],
+    "Qiv/DataModel/Tarvonel/Serialization/Json/Details/(Quote|Text|ToTree|Utf8)":
+        ["TextTests", "fuzz_text", "InspectionTests"],
     "Qiv/DataModel/Tarvonel/Serialization/Json/Details/SameContent": ["UpdatesTests", "fuzz_updates", "DocumentsTests"],
     "Qiv/DataModel/Tarvonel/Serialization/Json/": ["InspectionTests", "ConvertersTests", "tarvonel-json"],
     "Qiv/.*/Serialization/": ["ConvertersTests", "InspectionTests"],
