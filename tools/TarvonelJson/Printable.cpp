@@ -138,7 +138,7 @@ std::string Shortened(std::string_view text, std::size_t length, Keep keep)
     const auto shown = text.size() <= most   ? text
                        : keep == Keep::Start ? text.substr(0, most)
                                              : text.substr(text.size() - most);
-    const auto printable = Printable(shown);
+    auto printable = Printable(shown);
     const auto part = Part(printable, length, keep);
     if (part.size() == printable.size() && shown.size() == text.size())
         return printable;

@@ -41,7 +41,7 @@ constexpr std::int64_t SamplePerMinute(std::int64_t rate, bool isDrop) noexcept
 constexpr std::int64_t SamplePerHour(std::int64_t rate, bool isDrop) noexcept
 {
     if (isDrop && (rate == 30 || rate == 60))
-        return rate * 3600 - 54 * SkippedPerMinute(rate);
+        return rate * 3600 - std::int64_t{54} * SkippedPerMinute(rate);
     return WrappingMultiply(rate, 3600);
 }
 

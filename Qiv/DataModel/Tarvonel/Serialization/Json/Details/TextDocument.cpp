@@ -28,7 +28,6 @@ using Common::Serialization::Json::Details::IsContainer;
 using Common::Serialization::Json::Details::NodeType;
 using Common::Serialization::Json::Details::RealOf;
 using Common::Serialization::Json::Details::TextNode;
-using Common::Serialization::Json::Details::TextNodes;
 using Common::Serialization::Json::Details::TextOf;
 
 namespace
@@ -61,7 +60,7 @@ bool IsSeparator(char character) noexcept
 // Makes nodes of the parser's events. What an event does not tell is where its value stands: true, false, null,
 // objects, arrays and texts with escapes begin at the first byte that is no separator behind the last token whose end
 // is known.
-class TextDocument::Writer
+class TextDocument::NodeWriter
 {
 public:
     static constexpr auto max_object_size = std::numeric_limits<std::size_t>::max();
@@ -69,7 +68,7 @@ public:
     static constexpr auto max_key_size = std::numeric_limits<std::size_t>::max();
     static constexpr auto max_string_size = std::numeric_limits<std::size_t>::max();
 
-    Writer(TextDocument& document, std::string_view text, const TextLimits& limits) noexcept
+    NodeWriter(TextDocument& document, std::string_view text, const TextLimits& limits) noexcept
         : document_(document),
           text_(text),
           limits_(limits),
@@ -428,7 +427,7 @@ std::optional<TextFailure> TextDocument::Parse(std::string_view text, const Text
 
     boost::json::parse_options options;
     options.max_depth = std::min(limits.depth, mostDepth);
-    boost::json::basic_parser<Writer> parser(options, *this, text, limits);
+    boost::json::basic_parser<NodeWriter> parser(options, *this, text, limits);
     ParserError error;
     const auto end = parser.write_some(false, text.data(), text.size(), error);
     auto& writer = parser.handler();

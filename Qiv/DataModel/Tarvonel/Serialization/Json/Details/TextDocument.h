@@ -33,7 +33,7 @@ public:
     const Common::Serialization::Json::Details::TextNode& Root() const noexcept { return *nodes_.nodes; }
 
 private:
-    class Writer;
+    class NodeWriter;
 
     Common::Serialization::Json::Details::TextNodes nodes_{};
     std::unique_ptr<Common::Serialization::Json::Details::TextNode[]> moreNodes_;

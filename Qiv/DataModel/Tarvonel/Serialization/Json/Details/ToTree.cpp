@@ -9,7 +9,6 @@ namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
 {
 
 using Common::Serialization::Json::JsonObject;
-using Common::Serialization::Json::Details::IsContainer;
 using Common::Serialization::Json::Details::NodeType;
 using Common::Serialization::Json::Details::RealOf;
 using Common::Serialization::Json::Details::TextNode;

@@ -33,7 +33,9 @@ using TimePoints::TimeCode;
 
 SharedTimePointWriter OrDefault(SharedTimePointWriter timepointConverter)
 {
-    return timepointConverter ? timepointConverter : std::make_shared<TimePointToJsonObjectConverter>();
+    if (timepointConverter == nullptr)
+        timepointConverter = std::make_shared<TimePointToJsonObjectConverter>();
+    return timepointConverter;
 }
 
 Result AppendCommonMembers(Stringer& stringer, const MediaIO& channel)
