@@ -73,7 +73,8 @@ TextResult ReadDocument(ValueView json, std::string_view text, DocumentKind kind
 TextResult ReadDocument(ValueView json, std::string_view text, const ReadTarget& target, ReadMode mode,
                         const ReadOptions& options)
 {
-    return ReadDocument(json, text, KindOf(target), options, [&] { return ReadWhole(json, target, mode); });
+    const auto read = [&] { return ReadWhole(json, target, mode); };
+    return ReadDocument(json, text, KindOf(target), options, std::cref(read)); // a copy of it would be an allocation
 }
 
 } // namespace Qiv::DataModel::Tarvonel::Serialization::Json::Details
