@@ -29,6 +29,20 @@ TEST(Writers, WriteEveryArgumentOfAConstructor)
     EXPECT_EQ(members.CloseObject().ToString(), R"({"before":1,"_type":"Node","id":""})");
 }
 
+TEST(Writers, AppendWhatTheyWriteToAnOpenObject)
+{
+    const BoundaryAbsolute absolute(TimePoint(7));
+    const BoundaryRelative relative(BoundaryOrigin::RelativeToOppositeMediaBoundary, 4);
+    Stringer json;
+    EXPECT_TRUE(BoundaryToJsonConverter().Append(json.Object(), absolute));
+    EXPECT_TRUE(BoundaryToJsonConverter().Append(json.CloseObject().Object(), relative));
+    EXPECT_TRUE(SpeedToJsonConverter().AppendSpeed(json.CloseObject().Object(), Speed(1, 2)));
+    EXPECT_EQ(json.CloseObject().ToString(),
+              R"({"_type":"BoundaryAbsolute","timepoint":{"_type":"TimePoint","value":"7"}})"
+              R"({"_type":"BoundaryRelative","origin":"RelativeToOppositeMediaBoundary","offset":4})"
+              R"({"_type":"Speed","numerator":1,"denominator":2})");
+}
+
 TEST(Writers, WriteWhatNoDocumentGives)
 {
     MediaInput channel;

@@ -1,5 +1,6 @@
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ReadAny.h>
 
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/Channels/MetadataValues.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/HaveEqualContent.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/Documents/ToText.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/Json/InspectDocument.h>
@@ -158,6 +159,34 @@ TEST(ToText, ThrowsTheTextOfAWriterThatFails)
     EXPECT_EQ(ThrownText<std::invalid_argument>([&] { static_cast<void>(ToText(boundary)); }), "Null BoundaryAbsolute");
     EXPECT_EQ(ToText(Speed(1, 2), Layout::Pretty),
               "{\n  \"_type\": \"Speed\",\n  \"numerator\": 1,\n  \"denominator\": 2\n}");
+}
+
+TEST(ToText, TakesTheEntitiesInsideOfOthers)
+{
+    MediaInput channel;
+    Channels::SetMetadataValue(channel.Metadata(), "a.b", "c");
+    DataModel::MediaAssets::MediaAsset asset;
+    asset.Id("clip");
+    BusinessEntityModel::Edits::Sequence sequence;
+    sequence.Name("Highlights");
+    EXPECT_EQ(ToText(channel.Metadata()), R"({"a.b":"c"})");
+    EXPECT_EQ(ToText(asset), R"({"_type":"MediaAsset","id":"clip"})");
+    EXPECT_EQ(ToText(sequence), R"({"_type":"Sequence","id":"","name":"Highlights"})");
+}
+
+// Numbers and truth values are taken as jsoncpp's text of them, also where no tree is made.
+TEST(MergeText, TakesTheIdentifierOfAReferenceAsATreeHasIt)
+{
+    for (const std::string id :
+         {"\"x\"", "-3", "18446744073709551615", "1.50", "1e3", "-0.0", "true", "false", "null", "{}", "[]"})
+    {
+        const auto text = R"({"_type":"MediaInput","mediaAssetOnAir":{"id":)" + id + "}}";
+        JsonObject json;
+        ASSERT_TRUE(ParseText(text, json));
+        MediaInput ofText, ofTree;
+        EXPECT_EQ(MergeText(text, ofText).ErrorMessage(), MergeWhole(json, ofTree).ErrorMessage()) << id;
+        EXPECT_EQ(ofText.MediaAssetOnAir().Id().Value(), ofTree.MediaAssetOnAir().Id().Value()) << id;
+    }
 }
 
 // The channels here are equal by ==.
