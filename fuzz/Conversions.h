@@ -6,6 +6,7 @@
 
 #include <Qiv/Common/Serialization/Json/Stringer.h>
 #include <Qiv/Common/Serialization/Result.h>
+#include <Qiv/DataModel/Tarvonel/Serialization/Json/DocumentKind.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/BoundaryToJsonConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToBoundaryConverter.h>
 #include <Qiv/DataModel/Tarvonel/Serialization/MediaIOs/Json/JsonToMediaIOConverter.h>
@@ -152,5 +153,28 @@ constexpr Conversion<Node> nodeConversion{Read<JsonToNodeConverter>, Write<NodeT
 constexpr Conversion<std::unique_ptr<Boundary>> boundaryConversion{
     Read<JsonToBoundaryConverter>, [](const std::unique_ptr<Boundary>& boundary, Stringer& stringer)
     { return BoundaryToJsonConverter().To(*boundary, stringer); }};
+
+/// Calls `use` with the conversion of a kind of document.
+template <typename Use>
+void WithConversion(Qiv::DataModel::Tarvonel::Serialization::Json::DocumentKind kind, const Use& use)
+{
+    using Qiv::DataModel::Tarvonel::Serialization::Json::DocumentKind;
+
+    switch (kind)
+    {
+    case DocumentKind::MediaInput:
+        return use(channelConversion<MediaInput>);
+    case DocumentKind::MediaOutput:
+        return use(channelConversion<MediaOutput>);
+    case DocumentKind::Node:
+        return use(nodeConversion);
+    case DocumentKind::SequenceOutput:
+        return use(sequenceOutputConversion);
+    case DocumentKind::Speed:
+        return use(speedConversion);
+    case DocumentKind::Boundary:
+        return use(boundaryConversion);
+    }
+}
 
 } // namespace Fuzz

@@ -170,26 +170,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     const auto document = Parse(text, static_cast<Parsing>(flags % 3));
     const bool isFilled = (flags & 4U) != 0;
     ExerciseAny(text);
-    switch (kind)
-    {
-    case DocumentKind::MediaInput:
-        Exercise(channelConversion<MediaInput>, kind, document, text, isFilled);
-        break;
-    case DocumentKind::MediaOutput:
-        Exercise(channelConversion<MediaOutput>, kind, document, text, isFilled);
-        break;
-    case DocumentKind::Node:
-        Exercise(nodeConversion, kind, document, text, isFilled);
-        break;
-    case DocumentKind::SequenceOutput:
-        Exercise(sequenceOutputConversion, kind, document, text, isFilled);
-        break;
-    case DocumentKind::Speed:
-        Exercise(speedConversion, kind, document, text, isFilled);
-        break;
-    case DocumentKind::Boundary:
-        Exercise(boundaryConversion, kind, document, text, isFilled);
-        break;
-    }
+    WithConversion(kind, [&](const auto& conversion) { Exercise(conversion, kind, document, text, isFilled); });
     return 0;
 }

@@ -134,27 +134,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     }
 
     const Way way{(flags & 1U) != 0, (flags & 2U) != 0, (flags & 4U) != 0};
-    const auto exercise = [&](const auto& conversion) { Exercise(conversion, kind, text, tree, way); };
-    switch (kind)
-    {
-    case DocumentKind::MediaInput:
-        exercise(channelConversion<MediaInput>);
-        break;
-    case DocumentKind::MediaOutput:
-        exercise(channelConversion<MediaOutput>);
-        break;
-    case DocumentKind::Node:
-        exercise(nodeConversion);
-        break;
-    case DocumentKind::SequenceOutput:
-        exercise(sequenceOutputConversion);
-        break;
-    case DocumentKind::Speed:
-        exercise(speedConversion);
-        break;
-    case DocumentKind::Boundary:
-        exercise(boundaryConversion);
-        break;
-    }
+    WithConversion(kind, [&](const auto& conversion) { Exercise(conversion, kind, text, tree, way); });
     return 0;
 }
